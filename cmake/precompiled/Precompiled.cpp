@@ -1,0 +1,1 @@
+// Here so that the precompiled header has a target of its own.

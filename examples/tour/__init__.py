@@ -1,0 +1,1 @@
+"""Draws the demos' desktop and writes their steps; see examples/make-tour."""

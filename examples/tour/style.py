@@ -1,0 +1,22 @@
+"""Colours of the desktop and of the planner."""
+
+INK = "#1B2328"
+SECONDARY = "#5C6870"
+TERTIARY = "#7C888F"
+HAIRLINE = "#E8ECEE"
+BORDER = "#D5DBDF"
+WHITE = "#FFFFFF"
+PAPER = "#F0F4F3"
+ACCENT = "#0F7A6E"
+ACCENT_SOFT = "#DDF0EC"
+NIGHT = "#143237"
+NIGHT_RAISED = "#1E444A"
+NIGHT_SELECTED = "#275A60"
+NIGHT_TEXT = "#EAF4F3"
+NIGHT_SECONDARY = "#9DBDBD"
+
+# Fill, bar, title and detail of the bookings in each room.
+CORAL = ("#FDE9E2", "#EC7A57", "#7E3019", "#A9593F")
+TEAL = ("#DDF0EC", "#1E9A8A", "#0B4F48", "#2F766D")
+OCHRE = ("#FBF0D6", "#DDA52F", "#67470A", "#8E6D2B")
+VIOLET = ("#ECE8FA", "#7D69D6", "#3C2C86", "#6757AB")

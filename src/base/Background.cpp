@@ -1,0 +1,51 @@
+#include "base/Background.h"
+
+#include <QCoreApplication>
+#include <QCoroFuture>
+#include <QThreadPool>
+#include <QtConcurrentRun>
+
+#include <exception>
+
+namespace velvane {
+
+namespace {
+
+// Work begins at once, however much is under way: a run must not wait for the end of an export,
+// which keeps as many threads busy as the machine has cores.
+class Workers : public QThreadPool {
+public:
+    Workers() { setMaxThreadCount(1000); }
+};
+
+QThreadPool &workers()
+{
+    static Workers pool;
+    return pool;
+}
+
+} // namespace
+
+QCoro::Task<> inBackground(std::function<void()> work)
+{
+    // QtConcurrent would slice an exception to its own type; the pointer carries it whole.
+    std::exception_ptr failure;
+    const auto guarded = [&work, &failure] {
+        try {
+            work();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    };
+    const QFuture<void> done = QtConcurrent::run(&workers(), guarded);
+    co_await done;
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void onMainThread(std::function<void()> call)
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(call), Qt::QueuedConnection);
+}
+
+} // namespace velvane
