@@ -1,0 +1,51 @@
+#!/usr/bin/env python3
+"""Writes the first files of the fuzzers' corpus, which fuzz/run --grow then adds to."""
+import datetime
+import pathlib
+import plistlib
+
+KINDS = ["move", "click", "rightClick", "hold", "release", "type", "shortcut", "wait", "switchApp",
+         "section"]
+FULL_STEP = {"id": "0123ABCD-0123-ABCD-4567-0123456789AB", "kind": "type", "point": [1.5, -2.0],
+             "text": "né 日本 👍", "duration": 1.6, "pauseAfter": 0.3, "keyCode": 65535,
+             "modifiers": 2**64 - 1, "centerWindow": True, "collapsed": False,
+             "recordedOffset": 0.0}
+
+
+def demo(steps, **more):
+    return {"version": 1, "steps": steps, "startPoint": [640.0, 400], "canvasSize": [1280, 800.0],
+            "fps": 60, **more}
+
+
+VALUES = {
+    "numbers": [0, 255, 256, 65536, 2**32, -1, -2**63, 2**63 - 1, 2**63, 2**64 - 1, 0.5, -0.0],
+    "texts": ["", "a", "é", "日本", "👍🏽", "x" * 300],
+    "data": [b"", b"\x00\x01", b"z" * 20],
+    "dates": [datetime.datetime(2001, 1, 1), datetime.datetime(1970, 1, 1, 1, 2, 3)],
+    "nested": [[[[[{"a": {"b": {}}}]]]]],
+    "truths": {"yes": True, "no": False},
+    "kinds": demo([{"kind": kind} for kind in KINDS]),
+    "full": demo([FULL_STEP], background=b"no picture", recordingBookmark=b"\x00mark"),
+    "empty": demo([]),
+}
+DEMOS = ["kinds", "full", "empty"]
+
+
+def main():
+    here = pathlib.Path(__file__).parent / "corpus"
+    for folder in ("binary", "xml", "demo"):
+        (here / folder).mkdir(parents=True, exist_ok=True)
+    for name, value in VALUES.items():
+        binary = plistlib.dumps(value, fmt=plistlib.FMT_BINARY, sort_keys=False)
+        xml = plistlib.dumps(value, sort_keys=False)
+        (here / "binary" / name).write_bytes(binary)
+        (here / "xml" / name).write_bytes(xml)
+        if name in DEMOS:
+            (here / "demo" / f"{name}.binary").write_bytes(binary)
+            (here / "demo" / f"{name}.xml").write_bytes(xml)
+    uids = plistlib.dumps([plistlib.UID(1), plistlib.UID(70000)], fmt=plistlib.FMT_BINARY)
+    (here / "binary" / "uids").write_bytes(uids)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,131 @@
+#include "model/DemoDocument.h"
+
+#include "model/DocumentError.h"
+#include "model/ProjectFile.h"
+#include "model/propertylist/BinaryReader.h"
+#include "model/propertylist/BinaryWriter.h"
+#include "model/propertylist/XmlReader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace velvane {
+
+namespace {
+
+// Bytes; far more than a demo with the largest backdrop takes.
+constexpr qint64 maxFileSize = qint64(1) << 30;
+
+// Could this be a property list of either form? XML may start with a byte order mark or spaces.
+bool looksReadable(QByteArrayView start)
+{
+    if (BinaryReader::recognises(start))
+        return true;
+    return QByteArrayView("<\xEF\xFE\xFF \t\r\n").contains(start.isEmpty() ? '\0' : start.front())
+           || start.startsWith(QByteArrayView("\0<", 2));
+}
+
+PropertyList propertyList(const QByteArray &contents)
+{
+    if (!looksReadable(contents))
+        throw DocumentError(QStringLiteral("not a property list"));
+    return BinaryReader::recognises(contents) ? BinaryReader::read(contents)
+                                              : XmlReader::read(contents);
+}
+
+// What keeps a path from being opened as a file: opening a pipe or a device could hang or do harm.
+std::optional<QString> obstacle(const QFileInfo &info)
+{
+    if (info.isDir())
+        return QStringLiteral("is a folder");
+    if (!info.isFile())
+        return QStringLiteral("is not a regular file");
+    return {};
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        throw DocumentError(QStringLiteral("no such file"));
+    if (const auto found = obstacle(info))
+        throw DocumentError(*found);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw DocumentError(QStringLiteral("cannot be opened: %1").arg(file.errorString()));
+    if (file.size() > maxFileSize)
+        throw DocumentError(QStringLiteral("too large, %1 bytes").arg(file.size()));
+    constexpr qint64 aFew = 16;
+    if (!looksReadable(file.peek(aFew)))
+        throw DocumentError(QStringLiteral("not a property list"));
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw DocumentError(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    return bytes;
+}
+
+bool writeAll(QIODevice &device, QByteArrayView bytes)
+{
+    // A disk that fills up takes a part first, and only the next call says what is wrong.
+    while (!bytes.isEmpty()) {
+        const qint64 taken = device.write(bytes.data(), bytes.size());
+        if (taken <= 0)
+            return false;
+        bytes = bytes.sliced(taken);
+    }
+    return true;
+}
+
+} // namespace
+
+DemoDocument::DemoDocument() : m_project(std::make_unique<Project>()) {}
+
+DemoDocument::DemoDocument(const ProjectFile &file)
+    : m_project(std::make_unique<Project>(file))
+    , m_fileVersion(file.version)
+{}
+
+std::unique_ptr<DemoDocument> DemoDocument::read(const QString &path)
+{
+    return std::make_unique<DemoDocument>(readFile(path));
+}
+
+ProjectFile DemoDocument::readFile(const QString &path)
+{
+    return fileOf(bytesOf(path));
+}
+
+ProjectFile DemoDocument::fileOf(const QByteArray &contents)
+{
+    return ProjectFile::from(propertyList(contents));
+}
+
+ProjectFile DemoDocument::snapshot() const
+{
+    return m_project->fileSnapshot();
+}
+
+QByteArray DemoDocument::contents(const ProjectFile &file)
+{
+    return BinaryWriter::write(file.toPropertyList());
+}
+
+std::optional<QString> DemoDocument::write(const ProjectFile &file, const QString &path)
+{
+    const QFileInfo existing(path);
+    if (existing.exists()) {
+        if (auto found = obstacle(existing))
+            return found;
+    }
+    // It follows symbolic links, keeps the mode, and puts the new file in place in one step.
+    QSaveFile saved(path);
+    saved.setDirectWriteFallback(false);
+    // Without a buffer of its own: it would not notice that a full disk took only a part of that.
+    if (!saved.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        || !writeAll(saved, contents(file)) || !saved.commit())
+        return QStringLiteral("cannot be written: %1").arg(saved.errorString());
+    return {};
+}
+
+} // namespace velvane

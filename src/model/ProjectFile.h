@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/Step.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <optional>
+
+namespace velvane {
+
+class PropertyList;
+
+/// The root record of a demo file.
+struct ProjectFile {
+    /// Always written as 1; on reading any integer is accepted.
+    qint64 version = 1;
+    QList<Step> steps;
+    QPointF startPoint;
+    QSizeF canvasSize;
+    int fps = 60;
+    /// PNG when written; any picture format when read.
+    std::optional<QByteArray> background;
+    /// Finds the movie again that was recorded with the steps; opaque here.
+    std::optional<QByteArray> recordingBookmark;
+
+    /// The record of a property list. Unknown keys are ignored; throws DocumentError, naming the
+    /// step and the key, when a required key is missing or a value is of the wrong type or range.
+    static ProjectFile from(const PropertyList &root);
+
+    PropertyList toPropertyList() const;
+};
+
+} // namespace velvane

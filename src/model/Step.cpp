@@ -1,0 +1,100 @@
+#include "model/Step.h"
+
+#include "base/Geometry.h"
+#include "model/Shortcut.h"
+
+#include <QCoreApplication>
+
+namespace velvane {
+
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Step", text);
+}
+
+} // namespace
+
+Step Step::withDefaults(StepKind kind, QSizeF canvasSize)
+{
+    Step step;
+    step.kind = kind;
+    switch (kind) {
+    case StepKind::move:
+        step.point = {canvasSize.width() * 0.5, canvasSize.height() * 0.5};
+        step.duration = 1.2s;
+        step.pauseAfter = 0.2s;
+        break;
+    case StepKind::click:
+    case StepKind::rightClick:
+        step.pauseAfter = 0.4s;
+        break;
+    case StepKind::hold:
+    case StepKind::release:
+    case StepKind::shortcut:
+        break;
+    case StepKind::type:
+        step.text = translated("Type here");
+        step.duration = 1.6s;
+        break;
+    case StepKind::wait:
+        step.pauseAfter = 1.0s;
+        break;
+    case StepKind::switchApp:
+        step.text = QStringLiteral("Safari");
+        step.pauseAfter = 0.8s;
+        break;
+    case StepKind::section:
+        step.text = translated("Section");
+        step.pauseAfter = 0s;
+        break;
+    }
+    return step;
+}
+
+QString Step::summary() const
+{
+    switch (kind) {
+    case StepKind::move:
+        return translated("Move to (%1, %2)").arg(truncated(point.x())).arg(truncated(point.y()));
+    case StepKind::click:
+        return translated("Click");
+    case StepKind::rightClick:
+        return translated("Right-click");
+    case StepKind::hold:
+        return translated("Hold mouse down");
+    case StepKind::release:
+        return translated("Release mouse");
+    case StepKind::type:
+        return translated("Type \"%1\"").arg(text);
+    case StepKind::shortcut: {
+        const QString keys = shortcutDisplay();
+        return keys.isEmpty() ? translated("Shortcut") : translated("Press %1").arg(keys);
+    }
+    case StepKind::wait:
+        return translated("Wait %1s").arg(pauseAfter.count(), 0, 'f', 1);
+    case StepKind::switchApp:
+        return translated("Switch to %1").arg(text.isEmpty() ? translated("app") : text);
+    case StepKind::section:
+        return text.isEmpty() ? translated("Section") : text;
+    }
+    return {};
+}
+
+QString Step::shortcutDisplay() const
+{
+    const QString special = Shortcut::specialKeyLabel(keyCode);
+    return Shortcut::modifierGlyphs(modifiers) + (special.isEmpty() ? text : special);
+}
+
+bool Step::operator==(const Step &other) const
+{
+    return id == other.id && kind == other.kind && identical(point, other.point)
+           && text == other.text && duration == other.duration && pauseAfter == other.pauseAfter
+           && keyCode == other.keyCode && modifiers == other.modifiers
+           && centerWindow == other.centerWindow && collapsed == other.collapsed
+           && recordedOffset == other.recordedOffset;
+}
+
+} // namespace velvane
