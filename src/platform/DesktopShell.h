@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Facility.h"
+
+#include <QUrl>
+
+namespace velvane {
+
+/// This program's place on the desktop, and the desktop's file manager and browser.
+///
+/// hide(), unhide() and activate() may be called on any thread and take effect in the order of the
+/// calls, perhaps a little later; the others on the main thread.
+class DesktopShell : public Facility {
+public:
+    /// Takes all our windows off the screen.
+    virtual void hide() = 0;
+
+    /// Brings them back without giving them the keyboard. Nothing happens unless hidden.
+    virtual void unhide() = 0;
+
+    /// Brings our windows in front of all others, with the keyboard.
+    virtual void activate() = 0;
+
+    /// Shows a file selected in the file manager, brought forward. False when that fails.
+    virtual bool reveal(const QString &file) = 0;
+
+    /// Opens an address with whatever handles it. False when nothing does.
+    virtual bool open(const QUrl &address) = 0;
+};
+
+} // namespace velvane

@@ -1,0 +1,37 @@
+#include "platform/freedesktop/SessionFolders.h"
+
+#include <QDir>
+
+namespace velvane {
+
+namespace {
+
+// An empty variable counts as unset.
+QString valueOr(const QProcessEnvironment &environment, const QString &name, const QString &other)
+{
+    const QString value = environment.value(name);
+    return value.isEmpty() ? other : value;
+}
+
+} // namespace
+
+SessionFolders SessionFolders::from(const QProcessEnvironment &environment)
+{
+    const QString home = valueOr(environment, "HOME", QDir::homePath());
+    const QString own = valueOr(environment, "XDG_DATA_HOME", home + "/.local/share");
+    const QString shared = valueOr(environment, "XDG_DATA_DIRS", "/usr/local/share:/usr/share");
+    SessionFolders folders;
+    for (const QString &folder : QStringList(own) + shared.split(u':')) {
+        const QString clean = QDir::cleanPath(folder);
+        if (QDir::isAbsolutePath(folder) && !folders.data.contains(clean))
+            folders.data << clean;
+    }
+    for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (folders.locale.isEmpty())
+            folders.locale = environment.value(QLatin1String(name));
+    }
+    folders.desktops = environment.value("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
+    return folders;
+}
+
+} // namespace velvane
