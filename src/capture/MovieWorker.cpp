@@ -1,0 +1,57 @@
+#include "capture/MovieWorker.h"
+
+namespace velvane {
+
+MovieWorker::MovieWorker(std::unique_ptr<MovieReader> reader, Decoded decoded)
+    : m_reader(std::move(reader))
+    , m_decoded(std::move(decoded))
+    , m_thread([this] { run(); })
+{}
+
+MovieWorker::~MovieWorker()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isEnding = true;
+    }
+    m_wake.notify_one();
+    m_thread.join();
+}
+
+void MovieWorker::request(Seconds time, int generation)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_request = Request{time, generation};
+        m_newest = generation;
+    }
+    m_wake.notify_one();
+}
+
+void MovieWorker::run()
+{
+    while (const std::optional<Request> request = wait())
+        decode(*request);
+}
+
+std::optional<MovieWorker::Request> MovieWorker::wait()
+{
+    std::unique_lock lock(m_mutex);
+    m_wake.wait(lock, [this] { return m_isEnding || m_request; });
+    if (m_isEnding)
+        return {};
+    return std::exchange(m_request, {});
+}
+
+void MovieWorker::decode(const Request &request)
+{
+    const auto isStale = [&] { return m_isEnding || m_newest != request.generation; };
+    const std::optional<MoviePicture> picture = m_reader->picture(request.time, isStale);
+    if (!picture || isStale())
+        return;
+    const Result result{request.time, request.generation, *picture, picture->image()};
+    if (!result.image.isNull())
+        m_decoded(result);
+}
+
+} // namespace velvane

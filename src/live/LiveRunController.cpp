@@ -1,0 +1,199 @@
+#include "live/LiveRunController.h"
+
+#include "base/Background.h"
+#include "base/KeyCode.h"
+#include "live/Applications.h"
+#include "live/Run.h"
+#include "model/StepList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velvane {
+
+namespace {
+
+constexpr int firstNumber = 3;
+constexpr Seconds eachNumber = 0.8s;
+// How soon the countdown notices that it has been cancelled.
+constexpr Seconds glance = 0.1s;
+
+} // namespace
+
+LiveRunController::LiveRunController(Project &project, Playback &playback, Desktop &desktop,
+                                     std::function<RunOptions()> options, QObject *parent)
+    : QObject(parent)
+    , m_project(project)
+    , m_playback(playback)
+    , m_desktop(desktop)
+    , m_readOptions(std::move(options))
+{}
+
+LiveRunController::~LiveRunController()
+{
+    Q_ASSERT(!m_isBusy);
+}
+
+Snapshot LiveRunController::liveSnapshot(std::optional<QUuid> from) const
+{
+    Snapshot demo = m_project.snapshot();
+    const auto first = from ? StepList::index(demo.steps, *from) : std::nullopt;
+    if (!first)
+        return demo;
+    for (qsizetype i = *first - 1; i >= 0; --i) {
+        if (demo.steps[i].kind == StepKind::move) {
+            demo.startPoint = demo.steps[i].point;
+            break;
+        }
+    }
+    demo.steps.remove(0, *first);
+    return demo;
+}
+
+QString LiveRunController::missing() const
+{
+    if (m_isBusy)
+        return tr("A live run is in progress.");
+    if (!m_desktop.permissions().granted(Permission::accessibility))
+        return {};
+    const QString reason = m_desktop.input().missing();
+    return reason.isEmpty() ? m_desktop.keys().missing() : reason;
+}
+
+// Why the demo cannot be run now; empty when it can. Asks for the permission.
+QString LiveRunController::refusal(const Snapshot &demo)
+{
+    if (demo.steps.isEmpty())
+        return tr("Add some steps first.");
+    if (!m_desktop.permissions().request(Permission::accessibility)) {
+        Live::openAccessibilitySettings(m_desktop);
+        return tr("Grant Accessibility permission to Velvane, then run again.");
+    }
+    return missing();
+}
+
+QCoro::Task<> LiveRunController::runLive(std::optional<QUuid> from)
+{
+    if (m_isBusy)
+        co_return;
+    Q_EMIT aboutToRun();
+    const Snapshot demo = liveSnapshot(from);
+    if (!begin(demo))
+        co_return;
+    co_await countDown();
+    startRecording();
+    co_await perform(demo);
+    end();
+}
+
+// Makes ready for the demo; says why when it cannot.
+bool LiveRunController::begin(const Snapshot &demo)
+{
+    m_outcome = Outcome::refused;
+    QString refused = refusal(demo);
+    if (refused.isEmpty()) {
+        m_liveCancel = false;
+        m_escMonitor = m_desktop.keys().watch(KeyCode::escape, [this] { cancel(); });
+        // Nothing else could stop a run.
+        if (!m_escMonitor)
+            refused = tr("Esc cannot be watched for here, so nothing was run.");
+    }
+    if (!refused.isEmpty()) {
+        Q_EMIT reported(refused);
+        return false;
+    }
+    m_options = m_readOptions();
+    m_playback.pause();
+    setBusy(true);
+    return true;
+}
+
+QCoro::Task<> LiveRunController::countDown()
+{
+    for (int n = m_options.countdown ? firstNumber : 0; n > 0 && !m_liveCancel; --n) {
+        setLiveCountdown(n);
+        co_await rest(eachNumber);
+    }
+    setLiveCountdown(0);
+}
+
+QCoro::Task<> LiveRunController::rest(Seconds duration)
+{
+    Clock &clock = m_desktop.clock();
+    const Seconds end = clock.now() + duration;
+    while (!m_liveCancel && clock.now() < end)
+        co_await clock.delay(std::min(glance, end - clock.now()));
+}
+
+void LiveRunController::startRecording()
+{
+    if (m_options.recordMode == RecordMode::off || m_liveCancel)
+        return;
+    Q_EMIT reported(tr("Couldn't start recording: %1")
+                        .arg(tr("This version of Velvane cannot record the screen yet.")));
+}
+
+QCoro::Task<> LiveRunController::perform(const Snapshot &demo)
+{
+    if (m_liveCancel)
+        co_return;
+    setRunningLive(true);
+    const CancelCheck isCancelled = [this] { return m_liveCancel.load(); };
+    const std::function<void()> run = [this, &demo, &isCancelled] {
+        Live::run(m_desktop, demo, m_options.hideOthers, isCancelled);
+    };
+    co_await inBackground(run);
+}
+
+void LiveRunController::end()
+{
+    m_escMonitor.reset();
+    setRunningLive(false);
+    QString message = m_liveCancel ? tr("Live run stopped.") : tr("Live run finished.");
+    m_outcome = m_liveCancel ? Outcome::stopped : Outcome::finished;
+    if (!m_desktop.screens().pointer()) {
+        message = tr("Live run stopped: the display has gone.");
+        m_outcome = Outcome::stopped;
+    }
+    m_desktop.shell().unhide();
+    m_desktop.shell().activate();
+    setBusy(false);
+    Q_EMIT reported(message);
+    Q_EMIT finished();
+}
+
+void LiveRunController::cancel()
+{
+    m_liveCancel = true;
+    m_desktop.clock().wake();
+}
+
+bool LiveRunController::cancelThen(QObject *context, const std::function<void()> &again)
+{
+    if (!m_isBusy)
+        return false;
+    cancel();
+    const auto type = Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection);
+    connect(this, &LiveRunController::finished, context, again, type);
+    return true;
+}
+
+void LiveRunController::setBusy(bool busy)
+{
+    m_isBusy = busy;
+    Q_EMIT missingChanged();
+}
+
+void LiveRunController::setRunningLive(bool running)
+{
+    if (std::exchange(m_isRunningLive, running) != running)
+        Q_EMIT isRunningLiveChanged();
+}
+
+void LiveRunController::setLiveCountdown(int number)
+{
+    if (std::exchange(m_liveCountdown, number) != number)
+        Q_EMIT liveCountdownChanged();
+}
+
+} // namespace velvane
