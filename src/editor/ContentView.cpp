@@ -1,0 +1,298 @@
+#include "editor/ContentView.h"
+
+#include "editor/Controls.h"
+#include "editor/DemoSettings.h"
+#include "editor/DemoSettingsForm.h"
+#include "editor/EditorToolBar.h"
+#include "editor/InspectorPane.h"
+#include "editor/LiveOverlay.h"
+#include "editor/MenuActionsPublisher.h"
+#include "editor/PreviewCanvas.h"
+#include "editor/ScreenRecordingPrompt.h"
+#include "editor/SeveralStepsForm.h"
+#include "editor/StagePane.h"
+#include "editor/StatusLineView.h"
+#include "editor/StepForm.h"
+#include "editor/StepListPane.h"
+#include "editor/TransportBar.h"
+#include "editor/VideoScrubBar.h"
+#include "live/Applications.h"
+#include "model/StepList.h"
+
+#include <QFrame>
+#include <QKeyEvent>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace velvane {
+
+namespace {
+
+QSplitter *splitter(QWidget *parent)
+{
+    auto *made = new QSplitter(Qt::Horizontal, parent);
+    made->setHandleWidth(1);
+    made->setChildrenCollapsible(false);
+    return made;
+}
+
+void setPaneWidths(QWidget &pane, int least, int most)
+{
+    pane.setMinimumWidth(least);
+    pane.setMaximumWidth(most);
+}
+
+/// Lets Tab go through the panes in this order, and through each as it is laid out.
+void orderTabs(const QList<QWidget *> &panes)
+{
+    QWidget *last = nullptr;
+    for (const QWidget *pane : panes) {
+        for (QWidget *control : pane->findChildren<QWidget *>()) {
+            if (!(control->focusPolicy() & Qt::TabFocus))
+                continue;
+            if (last)
+                QWidget::setTabOrder(last, control);
+            last = control;
+        }
+    }
+}
+
+} // namespace
+
+ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settings, QWidget *parent)
+    : QWidget(parent)
+    , m_project(project)
+    , m_runSettings(settings)
+    , m_selection(project)
+    , m_clipboard(project, m_selection)
+    , m_fieldEditing(project)
+    , m_timeline(project, m_playback)
+    , m_catalog(desktop.apps())
+    , m_liveRun(project, m_playback, desktop, [&settings] { return RunOptions::from(settings); })
+    , m_recordActions(project, desktop)
+    , m_backdrop(project, m_statusLine, desktop)
+    , m_live(m_backdrop, desktop)
+    , m_recording(project, m_playback, m_timeline, m_backdrop, m_statusLine)
+    , m_pickLocation(project, m_statusLine, desktop)
+    , m_canvas(project, m_statusLine, m_fieldEditing.gesture())
+    , m_export(project, m_statusLine, m_backdrop, m_fieldEditing.gesture(),
+               ExportPanel::over(*this))
+    , m_steps(new StepListPane(project, m_selection, m_clipboard, m_recordActions, m_liveRun))
+    , m_toolBar(new EditorToolBar(project, m_backdrop, m_canvas, m_liveRun, settings))
+    , m_preview(new PreviewCanvas(project, m_playback, m_timeline, m_selection, m_canvas))
+    , m_stage(new StagePane(m_preview, m_backdrop))
+    , m_transport(new TransportBar(project, m_playback, m_timeline))
+    , m_inspector(new InspectorPane(
+          project, m_selection, new StepForm(project, m_fieldEditing, m_pickLocation, m_catalog),
+          new SeveralStepsForm(project, m_selection, m_clipboard, m_fieldEditing),
+          new DemoSettingsForm(project, m_fieldEditing, desktop.screens(), m_statusLine)))
+    , m_statusView(new StatusLineView(m_statusLine, m_export))
+    , m_scrubBar(new VideoScrubBar)
+    , m_overlay(new LiveOverlay(this))
+{
+    // A click beside all controls takes the focus off them.
+    setFocusPolicy(Qt::ClickFocus);
+    layOut();
+    wireMessages();
+    wireStage();
+    wireLiveBackdrop();
+    wireLiveRun();
+    wireRecording();
+    connect(m_inspector, &InspectorPane::appChosen, this,
+            [&desktop](const QString &name) { Live::raiseBehindUs(desktop, name); });
+    orderTabs({m_steps, m_toolBar, m_stage, m_scrubBar, m_transport, m_inspector, m_statusView});
+    m_menuActions = std::make_unique<MenuActionsPublisher>(*this);
+    m_steps->view().setFocus();
+}
+
+ContentView::~ContentView()
+{
+    // The menus' commands use the controllers, and so do the panes; members would go first.
+    m_menuActions.reset();
+    qDeleteAll(findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+void ContentView::layOut()
+{
+    auto *stageColumn = new QWidget(this);
+    auto *stageLayout = new QVBoxLayout(stageColumn);
+    stageLayout->setContentsMargins(0, 0, 0, 0);
+    stageLayout->setSpacing(0);
+    stageLayout->addWidget(m_stage, 1);
+    stageLayout->addWidget(m_scrubBar);
+    stageLayout->addWidget(m_transport);
+
+    m_inner = splitter(this);
+    m_inner->addWidget(stageColumn);
+    m_inner->addWidget(m_inspector);
+    m_inner->setStretchFactor(0, 1);
+    setPaneWidths(*m_inspector, Metrics::inspectorMinimum, Metrics::inspectorMaximum);
+
+    auto *right = new QWidget(this);
+    auto *rightLayout = new QVBoxLayout(right);
+    rightLayout->setContentsMargins(0, 0, 0, 0);
+    rightLayout->setSpacing(0);
+    rightLayout->addWidget(m_toolBar);
+    rightLayout->addWidget(Controls::hairline(right));
+    rightLayout->addWidget(m_inner, 1);
+
+    m_outer = splitter(this);
+    m_outer->addWidget(m_steps);
+    m_outer->addWidget(right);
+    m_outer->setStretchFactor(1, 1);
+    setPaneWidths(*m_steps, Metrics::sidebarMinimum, Metrics::sidebarMaximum);
+    connect(m_outer, &QSplitter::splitterMoved, this,
+            [this] { m_userWidths.sidebar = m_outer->sizes().at(0); });
+    connect(m_inner, &QSplitter::splitterMoved, this,
+            [this] { m_userWidths.inspector = m_inner->sizes().at(1); });
+
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    whole->addWidget(m_outer, 1);
+    whole->addWidget(m_statusView);
+}
+
+void ContentView::wireMessages()
+{
+    connect(&m_liveRun, &LiveRunController::reported, &m_statusLine, &StatusLine::setMessage);
+    connect(&m_recordActions, &RecordActionsController::reported, &m_statusLine,
+            &StatusLine::setMessage);
+}
+
+void ContentView::wireStage()
+{
+    m_stage->offerRecording(m_recordActions);
+    connect(m_preview, &PreviewCanvas::fileDropped, this, [this](const QString &file) {
+        if (const auto refusal = DemoSettings::setBackdrop(m_project, file))
+            m_statusLine.setMessage(*refusal);
+    });
+    connect(m_preview, &PreviewCanvas::pictureDropped, this,
+            [this](const QImage &picture) { DemoSettings::setBackdrop(m_project, picture); });
+    connect(m_preview, &PreviewCanvas::placeChanged, this, [this] {
+        m_overlay->setStage(QRect(m_stage->mapTo(this, QPoint()), m_stage->size()));
+        updateStatusCanvas();
+    });
+    connect(&m_project, &Project::canvasSizeChanged, this, &ContentView::updateStatusCanvas);
+    updateStatusCanvas();
+}
+
+void ContentView::wireLiveBackdrop()
+{
+    connect(&m_live, &LiveBackdrop::permissionMissingChanged, m_stage,
+            [this] { m_stage->setPermissionMissing(m_live.permissionMissing()); });
+    const ScreenRecordingPrompt &prompt = m_stage->prompt();
+    connect(&prompt, &ScreenRecordingPrompt::settingsRequested, &m_live.stream(),
+            &ScreenStream::openScreenRecordingSettings);
+    connect(&prompt, &ScreenRecordingPrompt::retryRequested, &m_live, &LiveBackdrop::tryAgain);
+}
+
+void ContentView::wireLiveRun()
+{
+    connect(&m_liveRun, &LiveRunController::aboutToRun, &m_fieldEditing,
+            &FieldEditing::commitOpenGesture);
+    // All three hear Esc and take the pointer or the keyboard.
+    connect(&m_liveRun, &LiveRunController::missingChanged, this, [this] {
+        const QString reason = m_liveRun.isBusy() ? m_liveRun.missing() : QString();
+        m_recordActions.hold(reason);
+        m_pickLocation.hold(reason);
+    });
+    connect(&m_liveRun, &LiveRunController::liveCountdownChanged, this, [this] {
+        const QStringList apps = StepList::distinctSwitchApps(m_project.steps());
+        m_overlay->setCountdown(m_liveRun.liveCountdown(), apps.value(0));
+    });
+    connect(&m_liveRun, &LiveRunController::isRunningLiveChanged, this,
+            [this] { m_overlay->setRunning(m_liveRun.isRunningLive()); });
+}
+
+void ContentView::wireRecording()
+{
+    VideoBackdrop &video = m_recording.video();
+    connect(m_scrubBar, &VideoScrubBar::frameRequested, &video, &VideoBackdrop::requestFrame);
+    connect(&video, &VideoBackdrop::durationChanged, this,
+            [this, &video] { m_scrubBar->setDuration(video.duration()); });
+    connect(&video, &VideoBackdrop::currentTimeChanged, this,
+            [this, &video] { m_scrubBar->setCurrentTime(video.currentTime()); });
+    // Frozen, it keeps its place, so that the canvas keeps its own.
+    const auto showScrubBar = [this] {
+        m_scrubBar->setVisible(m_backdrop.showRecording());
+        m_scrubBar->setEnabled(!m_backdrop.frozen());
+    };
+    connect(&m_backdrop, &BackdropController::showRecordingChanged, this, showScrubBar);
+    connect(&m_backdrop, &BackdropController::frozenChanged, this, showScrubBar);
+    showScrubBar();
+    m_scrubBar->alignWith(m_transport->timeLabel());
+}
+
+void ContentView::updateStatusCanvas()
+{
+    m_statusView->setCanvas(m_project.canvasSize(), m_preview->scale());
+}
+
+FocusedActions &ContentView::menuActions()
+{
+    return m_menuActions->focused();
+}
+
+void ContentView::keyPressEvent(QKeyEvent *event)
+{
+    // Keys that no focused control wanted.
+    if (event->modifiers() != Qt::NoModifier)
+        return QWidget::keyPressEvent(event);
+    if (event->key() == Qt::Key_Space)
+        m_playback.toggle(m_project.fps());
+    else if (event->key() == Qt::Key_Home)
+        m_playback.goToStart();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void ContentView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_live.setOnScreen(true);
+}
+
+void ContentView::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_live.setOnScreen(false);
+}
+
+void ContentView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    condense();
+}
+
+void ContentView::condense()
+{
+    const Condensing room = Condensing::of(width(), height());
+    if (room == m_condensing)
+        return;
+    m_condensing = room;
+    m_toolBar->setIconOnly(room.iconBackdrops, room.iconRunOptions);
+    m_steps->setAddMenu(room.addMenu);
+    m_steps->setPadding(room.padding);
+    m_inspector->setPadding(room.padding);
+    m_inspector->setLabelColumn(room.labelColumn);
+    m_preview->setMargin(room.stageMargin);
+    sizePanes();
+}
+
+void ContentView::sizePanes()
+{
+    const Condensing room = Condensing::of(width(), height());
+    const int sidebar = m_userWidths.sidebar > 0 ? m_userWidths.sidebar : room.sidebarWidth;
+    const int inspector = m_userWidths.inspector > 0 ? m_userWidths.inspector : room.inspectorWidth;
+    m_outer->setSizes({sidebar, width() - sidebar});
+    m_inner->setSizes({width() - sidebar - inspector, inspector});
+}
+
+void ContentView::restorePaneWidths(PaneWidths widths)
+{
+    m_userWidths = widths;
+    sizePanes();
+}
+
+} // namespace velvane

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <functional>
+
+namespace velvane {
+
+/// Starts the export of the focused demo.
+struct ExportVideoAction {
+    std::function<void()> run;
+};
+
+} // namespace velvane

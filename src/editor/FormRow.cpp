@@ -1,0 +1,49 @@
+#include "editor/FormRow.h"
+
+#include "editor/Metrics.h"
+#include "editor/Theme.h"
+
+namespace velvane {
+
+namespace {
+
+constexpr int textGap = 6;
+
+} // namespace
+
+FormRow::FormRow(const QString &label, QWidget *parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout(this))
+    , m_label(new QLabel(label, this))
+{
+    // As high as its highest control, whatever that would take.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(textGap);
+    m_label->setProperty("look", QStringLiteral("note"));
+    m_label->setMinimumHeight(Metrics::fieldHeight);
+    setLabelColumn(Metrics::labelColumn);
+    m_row->addWidget(m_label, 0, Qt::AlignTop);
+}
+
+void FormRow::setLabelColumn(int width)
+{
+    m_label->setFixedWidth(width - textGap);
+}
+
+void FormRow::add(QWidget *control, int stretch)
+{
+    if (!m_label->buddy())
+        m_label->setBuddy(control);
+    m_row->addWidget(control, stretch);
+}
+
+void FormRow::addText(const QString &text)
+{
+    auto *label = new QLabel(text, this);
+    label->setProperty("look", QStringLiteral("hint"));
+    label->setFont(Theme::font(TextSize::secondary));
+    m_row->addWidget(label);
+}
+
+} // namespace velvane

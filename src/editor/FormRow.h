@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QWidget>
+
+namespace velvane {
+
+/// One line of a form: a label and what it names. Without a label the contents keep the column.
+class FormRow : public QWidget {
+    Q_OBJECT
+public:
+    explicit FormRow(const QString &label, QWidget *parent = nullptr);
+
+    /// Adds a control; the first one becomes the label's buddy.
+    void add(QWidget *control, int stretch = 0);
+    /// Adds a small text before the next control: an axis or a unit.
+    void addText(const QString &text);
+    void addStretch() { m_row->addStretch(); }
+    /// `width`: from the form's left edge to the first control.
+    void setLabelColumn(int width);
+
+private:
+    QHBoxLayout *m_row;
+    QLabel *m_label;
+};
+
+} // namespace velvane
