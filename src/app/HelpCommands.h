@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/DesktopShell.h"
+
+class QMenu;
+class QWidget;
+
+namespace velvane {
+
+/// The menu "Help".
+namespace HelpCommands {
+
+/// Adds "Velvane Help". The shell opens the page and must outlive the menu; that it failed is said
+/// over the window.
+void addTo(QMenu &menu, DesktopShell &shell, QWidget &window);
+
+/// Where the documentation stands. The host is chosen when the program is built.
+QUrl documentation();
+
+} // namespace HelpCommands
+
+} // namespace velvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "cli/Commands.h"
+
+#include <memory>
+#include <vector>
+
+namespace velvane::cli {
+
+/// The program's arguments: subcommands, or demos to open in the editor.
+class CommandLine {
+public:
+    explicit CommandLine(Console console = {});
+    ~CommandLine();
+
+    /// Reads the arguments. Returns an exit status when there is nothing more to do: after help
+    /// (0) and after wrong usage (2, with one line on err).
+    std::optional<int> parse(int argc, const char *const *argv);
+
+    /// Was a subcommand named? Otherwise demos() are to be opened in a window.
+    bool hasCommand() const { return bool(m_action); }
+    const std::vector<std::string> &demos() const { return m_demos; }
+
+    /// Runs the subcommand and returns its exit status; needs the application object. What goes
+    /// wrong is one line on err and status 1.
+    int run();
+
+private:
+    Console m_console;
+    std::unique_ptr<CLI::App> m_app;
+    Action m_action;
+    std::vector<std::string> m_demos;
+};
+
+} // namespace velvane::cli

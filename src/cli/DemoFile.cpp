@@ -1,0 +1,31 @@
+#include "cli/DemoFile.h"
+
+#include "base/FolderLock.h"
+#include "model/DocumentError.h"
+
+namespace velvane::cli {
+
+DemoDocument readDemo(const std::string &path)
+{
+    return DemoDocument(readRecord(path));
+}
+
+ProjectFile readRecord(const std::string &path)
+{
+    const QString name = fileName(path);
+    try {
+        return DemoDocument::readFile(name);
+    } catch (const DocumentError &error) {
+        throw CommandError(QString::fromStdString(printable(name + ": " + error.message())));
+    }
+}
+
+void writeDemo(const ProjectFile &file, const QString &path)
+{
+    // An editor may be about to replace the same file.
+    const FolderLock lock(path);
+    if (const auto failure = DemoDocument::write(file, path))
+        throw CommandError(QString::fromStdString(printable(path + ": " + *failure)));
+}
+
+} // namespace velvane::cli

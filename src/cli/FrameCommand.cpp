@@ -1,0 +1,82 @@
+#include "base/FileStamp.h"
+#include "cli/Commands.h"
+#include "cli/DemoFile.h"
+#include "cli/Validators.h"
+#include "render/FrameRenderer.h"
+#include "timeline/Timeline.h"
+
+#include <QImageWriter>
+#include <QPainter>
+#include <QSaveFile>
+
+namespace velvane::cli {
+
+namespace {
+
+struct Options {
+    std::string demo;
+    double at = 0;
+    std::string output;
+};
+
+// As movies show it: what the backdrop leaves transparent is black.
+QImage flattened(const QImage &frame)
+{
+    QImage opaque(frame.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::black);
+    QPainter(&opaque).drawImage(0, 0, frame);
+    return opaque;
+}
+
+void writePng(const QImage &picture, const QString &path)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        throw CommandError(path + ": " + file.errorString());
+    QImageWriter writer(&file, "png");
+    if (!writer.write(picture) || !file.commit())
+        throw CommandError(path + ": " + file.errorString());
+}
+
+int renderFrame(const Options &options)
+{
+    const DemoDocument demo = readDemo(options.demo);
+    const QString path = fileName(options.output);
+    if (FileStamp::isSameFile(path, fileName(options.demo)))
+        throw CommandError(path + ": the picture would replace the demo");
+    const Snapshot snap = demo.project().snapshot();
+    const QImage frame = FrameRenderer::image(snap, Timeline(snap).state(Seconds(options.at)));
+    if (frame.isNull())
+        throw CommandError(QString("%1: a canvas of %2 × %3 cannot be drawn")
+                               .arg(fileName(options.demo))
+                               .arg(snap.canvasSize.width())
+                               .arg(snap.canvasSize.height()));
+    writePng(flattened(frame), path);
+    return 0;
+}
+
+} // namespace
+
+void addFrame(CLI::App &app, Console &, Action &chosen)
+{
+    const auto options = std::make_shared<Options>();
+    CLI::App *command = app.add_subcommand("frame", "Render one moment of a demo to a picture");
+    command->add_option("DEMO", options->demo, "The demo")->required();
+    command->add_option("--at", options->at, "The moment in seconds")
+        ->required()
+        ->type_name("T")
+        ->check(isFinite());
+    command->add_option("--output,-o", options->output, "The picture to write")
+        ->required()
+        ->type_name("PNG");
+    command->footer(R"(DESCRIPTION
+  Render one moment of a demo to a PNG picture of the canvas's size: what a
+  movie shows at that moment. A moment outside the demo shows its first or its
+  last instant.
+
+EXAMPLE
+  velvane frame tour.velvane --at 2.5 --output still.png)");
+    command->callback([&chosen, options] { chosen = [options] { return renderFrame(*options); }; });
+}
+
+} // namespace velvane::cli
