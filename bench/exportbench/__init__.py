@@ -1,0 +1,1 @@
+"""Parts of the export benchmark; see bench/export."""
