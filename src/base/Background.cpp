@@ -11,11 +11,18 @@ namespace velvane {
 
 namespace {
 
+QThreadPool &workers();
+
 // Work begins at once, however much is under way: a run must not wait for the end of an export,
-// which keeps as many threads busy as the machine has cores.
+// which keeps as many threads busy as the machine has cores. The threads end with the application,
+// while what they keep of Qt for themselves can still be given back.
 class Workers : public QThreadPool {
 public:
-    Workers() { setMaxThreadCount(1000); }
+    Workers()
+    {
+        setMaxThreadCount(1000);
+        qAddPostRoutine([] { workers().waitForDone(); });
+    }
 };
 
 QThreadPool &workers()

@@ -25,19 +25,25 @@ def state():
 
 
 class FullScreen(EditorTest):
+    def watch_state(self):
+        """Counts what the window manager makes of the active window: its state, and each change."""
+        told = self.folder / "states"
+        number = xdotool("getactivewindow").strip()
+        with told.open("w") as output:
+            spy = subprocess.Popen(
+                ["stdbuf", "-oL", "xprop", "-spy", "-id", number, "_NET_WM_STATE"], stdout=output)
+        self.addCleanup(spy.wait)
+        self.addCleanup(spy.kill)
+        return lambda: len(told.read_text().splitlines())
+
     def test_a_window_that_is_made_full_screen_leaves_it_at_once(self):
         editor = self.open(step("click"))
         place = editor.window.box
-        changes = subprocess.Popen(
-            ["xprop", "-spy", "-id", xdotool("getactivewindow").strip(), "_NET_WM_STATE"],
-            stdout=subprocess.PIPE, text=True)
-        self.addCleanup(changes.stdout.close)
-        self.addCleanup(changes.wait)
-        self.addCleanup(changes.kill)
+        changes = self.watch_state()
+        editor.wait(lambda: changes() == 1, "the state before")
         ask_manager("add,fullscreen")
-        # It was full screen, and is so no more.
-        line = next(line for line in changes.stdout if "FULLSCREEN" in line)
-        self.assertIn("_NET_WM_STATE_FULLSCREEN", line)
+        # Each change is a line; which state it reads may already be the one after.
+        editor.wait(lambda: changes() >= 3, "full screen to come and go")
         editor.wait(lambda: "FULLSCREEN" not in state(), "full screen to be left")
         editor.wait(lambda: editor.window.box == place, "the window's place before")
 

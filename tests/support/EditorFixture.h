@@ -17,6 +17,14 @@ namespace velvane {
 struct EditorFixture : testing::Test {
     EditorFixture() { project.setUndoManager(&undo); }
 
+    // What still waits when the editor is gone ends now.
+    ~EditorFixture() override
+    {
+        view.reset();
+        desktop.clock().advance(1s);
+        QCoreApplication::processEvents();
+    }
+
     ContentView &open(const QList<Step> &steps, QSize size = {1440, 900})
     {
         project.setSteps(steps);
