@@ -241,8 +241,8 @@ class Dropping(EditorTest):
         self.addCleanup(source.wait)
         self.addCleanup(source.terminate)
         x, y = map(int, source.stdout.readline().split())
-        editor.drag((x, y), target.centre, release=False)
-        # It is told from the far window what a release would do.
+        # One move, so that what the far window tells of a release holds for where it ends.
+        editor.drag((x, y), target.centre, steps=1, release=False)
         self.assertEqual(source.stdout.readline(), "over a target\n")
         editor.release()
 
