@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
 """Writes the first files of the fuzzers' corpus, which fuzz/run --grow then adds to."""
+import base64
 import datetime
 import pathlib
 import plistlib
@@ -30,10 +31,26 @@ VALUES = {
 }
 DEMOS = ["kinds", "full", "empty"]
 
+ENCLOSURE = ('<enclosure url="https://a.b/v.deb" length="1" sparkle:edSignature="%s"/>'
+             % base64.b64encode(bytes(64)).decode())
+FEED = ("""<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle" version="2.0">
+<channel><link>https://a.b</link><lastBuildDate>Sat, 21 Nov 2026 12:00:00 +0000</lastBuildDate>
+%s</channel></rss>
+""")
+FEEDS = {
+    "nothing": FEED % "",
+    "item": FEED % f"<item><sparkle:version>1.0</sparkle:version>{ENCLOSURE}</item>",
+    "items": FEED % "".join(
+        f"<item><sparkle:version>{version}</sparkle:version>{ENCLOSURE}</item>"
+        for version in ("0.9", "1.0-rc.1", "1.0-rc.10+x", "1.0")),
+    "signed": FEED % "" + "<!-- sparkle-signatures:\nedSignature: %s\nlength: %d\n-->\n"
+    % (base64.b64encode(bytes(64)).decode(), len(FEED % "")),
+}
+
 
 def main():
     here = pathlib.Path(__file__).parent / "corpus"
-    for folder in ("binary", "xml", "demo"):
+    for folder in ("binary", "xml", "demo", "appcast"):
         (here / folder).mkdir(parents=True, exist_ok=True)
     for name, value in VALUES.items():
         binary = plistlib.dumps(value, fmt=plistlib.FMT_BINARY, sort_keys=False)
@@ -45,6 +62,8 @@ def main():
             (here / "demo" / f"{name}.xml").write_bytes(xml)
     uids = plistlib.dumps([plistlib.UID(1), plistlib.UID(70000)], fmt=plistlib.FMT_BINARY)
     (here / "binary" / "uids").write_bytes(uids)
+    for name, feed in FEEDS.items():
+        (here / "appcast" / name).write_text(feed, encoding="utf-8")
 
 
 if __name__ == "__main__":
