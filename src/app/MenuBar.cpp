@@ -6,6 +6,7 @@
 #include "app/HelpCommands.h"
 #include "app/Question.h"
 #include "app/UpdaterCommands.h"
+#include "app/UpdaterController.h"
 #include "app/WindowCommands.h"
 #include "editor/ContentView.h"
 #include "editor/DemoCommands.h"
@@ -57,7 +58,7 @@ void buildMenuBar(EditorWindow &window)
     HelpCommands::addTo(help, window.documents().desktop().shell(), window);
     help.addSeparator();
     addAbout(help, window);
-    UpdaterCommands::addTo(help, window);
+    UpdaterCommands::addTo(help, window, UpdaterController::shared());
 }
 
 } // namespace velvane

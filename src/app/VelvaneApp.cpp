@@ -1,6 +1,7 @@
 #include "app/VelvaneApp.h"
 
 #include "app/EditorWindow.h"
+#include "app/UpdaterController.h"
 #include "editor/Theme.h"
 #include "model/DocumentError.h"
 
@@ -98,7 +99,10 @@ int VelvaneApp::run(int &argc, char **argv, const std::vector<std::string> &demo
     const std::unique_ptr<Desktop> desktop = Desktop::open();
     QSettings settings;
     VelvaneApp app(*desktop, settings);
-    return app.open(demos) ? QApplication::exec() : 1;
+    if (!app.open(demos))
+        return 1;
+    UpdaterController::shared().start();
+    return QApplication::exec();
 }
 
 } // namespace velvane
