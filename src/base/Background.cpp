@@ -31,10 +31,21 @@ QThreadPool &workers()
     return pool;
 }
 
+// How many tasks have begun and not ended. Main thread only.
+int tasks = 0;
+
+class CountedTask {
+public:
+    CountedTask() { ++tasks; }
+    ~CountedTask() { --tasks; }
+    Q_DISABLE_COPY_MOVE(CountedTask)
+};
+
 } // namespace
 
 QCoro::Task<> inBackground(std::function<void()> work)
 {
+    const CountedTask counted;
     // QtConcurrent would slice an exception to its own type; the pointer carries it whole.
     std::exception_ptr failure;
     const auto guarded = [&work, &failure] {
@@ -48,6 +59,11 @@ QCoro::Task<> inBackground(std::function<void()> work)
     co_await done;
     if (failure)
         std::rethrow_exception(failure);
+}
+
+bool isBackgroundBusy()
+{
+    return tasks > 0;
 }
 
 void onMainThread(std::function<void()> call)

@@ -10,6 +10,9 @@ namespace velvane {
 /// has, and throws what the work threw, unchanged.
 QCoro::Task<> inBackground(std::function<void()> work);
 
+/// Is any such task still to end? Main thread only.
+bool isBackgroundBusy();
+
 /// Queues a call for the main thread. Thread-safe; calls keep their order.
 void onMainThread(std::function<void()> call);
 

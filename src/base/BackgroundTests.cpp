@@ -64,4 +64,13 @@ TEST(Background, CallsForTheMainThreadKeepTheirOrder)
     EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
 }
 
+TEST(Background, ItIsBusyUntilTheTaskHasEnded)
+{
+    EXPECT_FALSE(isBackgroundBusy());
+    QCoro::Task<> task = inBackground([] {});
+    EXPECT_TRUE(isBackgroundBusy());
+    runToEnd(std::move(task));
+    EXPECT_FALSE(isBackgroundBusy());
+}
+
 } // namespace velvane

@@ -1,5 +1,7 @@
 #include "platform/simulated/SimulatedClock.h"
 
+#include "base/Background.h"
+
 #include <QTimer>
 
 #include <coroutine>
@@ -108,8 +110,9 @@ void SimulatedClock::queuePump()
         if (std::exchange(m_pumpQueued, true))
             return;
     }
-    // A timer of 0 fires after all that is queued, and all that this queues in turn.
-    QTimer::singleShot(0, &m_mainThread, [this] { pump(); });
+    // A timer of 0 fires after all that is queued, and all that this queues in turn. There is no
+    // telling when the background has done, so that is asked again and again.
+    QTimer::singleShot(isBackgroundBusy() ? 1 : 0, &m_mainThread, [this] { pump(); });
 }
 
 void SimulatedClock::pump()
@@ -120,7 +123,9 @@ void SimulatedClock::pump()
         m_pumpQueued = false;
         waiting = m_delays > 0;
     }
-    if (waiting && runNext(Seconds(std::numeric_limits<double>::infinity())))
+    if (waiting && isBackgroundBusy())
+        queuePump();
+    else if (waiting && runNext(Seconds(std::numeric_limits<double>::infinity())))
         queuePump();
 }
 

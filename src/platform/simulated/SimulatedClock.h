@@ -15,7 +15,8 @@ namespace velvane {
 /// A worker's sleep jumps to its end, making the calls due on the way at their times. Delays on the
 /// main thread share one pump: whenever the event loop has nothing else left to do, time jumps to
 /// the next due call or delay. So several coroutines wait side by side in the right order, and what
-/// a call queues for the main thread is done before time goes on.
+/// a call queues for the main thread is done before time goes on. What goes on in the background is
+/// waited for too: only it lets time pass then.
 ///
 /// Time starts at 0. Made on the main thread.
 class SimulatedClock final : public Clock {

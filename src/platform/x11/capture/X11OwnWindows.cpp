@@ -46,7 +46,9 @@ X11OwnWindows X11OwnWindows::ofThisProcess()
 {
     auto *gui = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
     const auto *x11 = gui ? gui->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return x11 ? X11OwnWindows(x11->connection()) : X11OwnWindows();
+    // Without a display of its own the toolkit has the interface, but nothing behind it.
+    xcb_connection_t *connection = x11 ? x11->connection() : nullptr;
+    return connection ? X11OwnWindows(connection) : X11OwnWindows();
 }
 
 X11OwnWindows::X11OwnWindows(xcb_connection_t *toolkit)
