@@ -8,7 +8,7 @@ namespace velvane {
 struct EncodedPicture {
     const quint8 *bytes = nullptr; ///< valid until the encoder is called again
     int size = 0;
-    qint64 index = 0;   ///< its time in frames of the movie's rate; grows from picture to picture
+    qint64 index = 0;   ///< its time in ticks of the encoder; grows from picture to picture
     bool isKey = false; ///< decodable without the pictures before
 };
 

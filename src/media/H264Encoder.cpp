@@ -61,7 +61,17 @@ void chooseTools(x264_param_t &param)
     param.b_deblocking_filter = 0;
 }
 
-x264_param_t parameters(QSize size, int fps)
+void setPace(x264_param_t &param, const H264Encoder::Pace &pace)
+{
+    param.i_fps_num = uint32_t(pace.fps);
+    param.i_fps_den = param.i_timebase_num = 1;
+    param.b_vfr_input = pace.ticks > 0;
+    param.i_timebase_den = uint32_t(pace.ticks > 0 ? pace.ticks : pace.fps);
+    if (pace.keysOnRequest)
+        param.i_keyint_max = X264_KEYINT_MAX_INFINITE;
+}
+
+x264_param_t parameters(QSize size, const H264Encoder::Pace &pace)
 {
     x264_param_t param;
     if (x264_param_default_preset(&param, "medium", nullptr) < 0)
@@ -72,13 +82,11 @@ x264_param_t parameters(QSize size, int fps)
     param.i_height = size.height();
     param.i_csp = X264_CSP_I420;
     param.i_bitdepth = 8;
-    param.b_vfr_input = 0;
-    param.i_fps_num = param.i_timebase_den = uint32_t(fps);
-    param.i_fps_den = param.i_timebase_num = 1;
     param.b_annexb = 0;
     param.b_repeat_headers = 0;
     tagColours(param);
     chooseTools(param);
+    setPace(param, pace);
     x264_param_apply_profile(&param, "high");
     return param;
 }
@@ -138,11 +146,11 @@ void appendParameterSet(QByteArray &to, const x264_nal_t &unit)
 
 } // namespace
 
-H264Encoder::H264Encoder(QSize size, int fps)
+H264Encoder::H264Encoder(QSize size, const Pace &pace)
     : m_macroblocks((size.width() + macroblock - 1) / macroblock,
                     (size.height() + macroblock - 1) / macroblock)
 {
-    x264_param_t param = parameters(size, fps);
+    x264_param_t param = parameters(size, pace);
     m_encoder = x264_encoder_open(&param);
     if (!m_encoder)
         throw encodingError("x264 cannot encode this size and rate");
@@ -182,12 +190,13 @@ QByteArray H264Encoder::configuration() const
 }
 
 std::optional<EncodedPicture> H264Encoder::encode(const Yuv420Converter &picture,
-                                                  const QRegion &changed, qint64 index)
+                                                  const QRegion &changed, qint64 index, bool asKey)
 {
     x264_picture_t in;
     x264_picture_init(&in);
     in.img = imageOf(picture);
     in.i_pts = index;
+    in.i_type = asKey ? X264_TYPE_IDR : X264_TYPE_AUTO;
     in.prop.mb_info = macroblockFlags(m_macroblocks, changed);
     in.prop.mb_info_free = std::free;
     return encoded(m_encoder, &in);

@@ -19,8 +19,18 @@ namespace velvane {
 /// that of showing. Quality is constant. Throws MovieError.
 class H264Encoder {
 public:
-    /// `size` in pixels, even; `fps` at least 1.
-    H264Encoder(QSize size, int fps);
+    /// How pictures follow one another.
+    struct Pace {
+        int fps = 60;  ///< how many a second at most; at least 1
+        int ticks = 0; ///< their times are counted in, per second; 0 for one tick a picture
+        /// Is a picture decodable by itself only where that is asked for, instead of now and then?
+        bool keysOnRequest = false;
+    };
+
+    /// `size` in pixels, even.
+    H264Encoder(QSize size, const Pace &pace);
+    /// One tick a picture.
+    H264Encoder(QSize size, int fps) : H264Encoder(size, Pace{.fps = fps}) {}
     ~H264Encoder();
     Q_DISABLE_COPY_MOVE(H264Encoder)
 
@@ -30,9 +40,10 @@ public:
     /// Encodes the converter's picture; the result is an earlier one, or none yet.
     ///
     /// `changed` is in pixels and covers all that differs from the picture encoded before: where
-    /// it leaves out a change, the movie goes on showing what was there.
+    /// it leaves out a change, the movie goes on showing what was there. `asKey` asks for a picture
+    /// that is decodable by itself; the first always is.
     std::optional<EncodedPicture> encode(const Yuv420Converter &picture, const QRegion &changed,
-                                         qint64 index);
+                                         qint64 index, bool asKey = false);
 
     /// The next picture that is still inside; none when all are out. Nothing is encoded after it.
     std::optional<EncodedPicture> drain();

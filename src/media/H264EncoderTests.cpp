@@ -25,7 +25,7 @@ std::vector<int> lumaOfSquare(const QRegion &told)
 
     H264Encoder encoder(image.size(), 60);
     MovieFile file(path);
-    Mp4Muxer muxer(file, {image.size(), 60, encoder.configuration(), 3});
+    Mp4Muxer muxer(file, {image.size(), 60, encoder.configuration()}, 3);
     for (int i = 0; i < 3; ++i) {
         if (i == 1) {
             image.fill(Qt::white);

@@ -42,8 +42,8 @@ public:
         , m_converter(size)
         , m_encoder(m_converter.paddedSize(), fps)
         , m_file(path)
-        , m_muxer(m_file, {m_converter.paddedSize(), fps, m_encoder.configuration(),
-                           std::max<qint64>(expectedFrames, 0)})
+        , m_muxer(m_file, {m_converter.paddedSize(), fps, m_encoder.configuration()},
+                  std::max<qint64>(expectedFrames, 0))
     {}
 
     void append(const Frame &frame);

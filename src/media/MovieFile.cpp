@@ -26,13 +26,15 @@ void removeExisting(const QByteArray &path)
 
 } // namespace
 
-MovieFile::MovieFile(const QString &path)
+MovieFile::MovieFile(const QString &path, Existing existing)
 {
     const QByteArray name = QFile::encodeName(path);
-    removeExisting(name);
+    if (existing == Existing::replace)
+        removeExisting(name);
     // Not blocking: a named pipe would otherwise wait for its reader.
-    constexpr int flags = O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK;
-    m_file = ::open(name.constData(), flags, 0666);
+    constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK;
+    m_file =
+        ::open(name.constData(), flags | (existing == Existing::refuse ? O_EXCL : O_TRUNC), 0666);
     if (m_file < 0)
         throw MovieError(MovieError::Cause::file, qt_error_string(errno));
     struct stat about {};

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <algorithm>
+
 namespace velvane {
 
 /// The file that a movie is written to, at any position.
@@ -10,9 +12,14 @@ namespace velvane {
 /// written: a full disk must not keep the movie's index from its place.
 class MovieFile {
 public:
-    /// Creates the file; a file or link of that name is removed first, and if it cannot be, it is
-    /// written over. Throws MovieError with the system's reason.
-    explicit MovieFile(const QString &path);
+    /// What becomes of a file that has the name.
+    enum class Existing {
+        replace, ///< a file or link is removed first, and if it cannot be, it is written over
+        refuse,  ///< it stays, and that is the error
+    };
+
+    /// Creates the file. Throws MovieError with the system's reason.
+    explicit MovieFile(const QString &path, Existing existing = Existing::replace);
     ~MovieFile();
     Q_DISABLE_COPY_MOVE(MovieFile)
 
@@ -25,6 +32,9 @@ public:
 
     /// Returns the number of bytes read, 0 at the end, negative on failure.
     qint64 read(qint64 position, quint8 *bytes, qint64 count);
+
+    /// Gives up what was written behind `end`; the file is cut when it is closed.
+    void cut(qint64 end) { m_size = std::min(m_size, end); }
 
     /// How far the file reaches, without room that was claimed but not written.
     qint64 size() const { return m_size; }
