@@ -7,6 +7,9 @@ namespace velvane {
 /// What of the screen a live run records. Enumerators are spelled as they are stored.
 enum class RecordMode { off, screen, window };
 
+/// What one recording covers: the primary display, or one application's main window.
+enum class RecordScope { screen, window };
+
 /// The stored name.
 inline QString id(RecordMode mode)
 {
