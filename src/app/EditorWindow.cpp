@@ -32,6 +32,8 @@ EditorWindow::EditorWindow(Documents &documents, std::unique_ptr<DemoDocument> d
     m_document->project().setUndoManager(&m_undo);
     buildMenuBar(*this);
     watchProject();
+    m_content->recordActions().askAboutCanvasWith(
+        [this](QSizeF screen, const auto &chosen) { askAboutCanvas(screen, chosen); });
     connect(&m_watch, &FileWatch::touched, this, &EditorWindow::onFileChanged);
     m_watch.setPath(m_file.path());
     updateTitle();
@@ -221,10 +223,34 @@ void EditorWindow::reload()
     }
 }
 
+void EditorWindow::askAboutCanvas(QSizeF screen, const RecordActionsController::Chosen &chosen)
+{
+    const auto sizeText = [](QSizeF size) {
+        // In one line.
+        return QStringLiteral("%1\u00a0×\u00a0%2").arg(size.width()).arg(size.height());
+    };
+    const Question question{
+        tr("The screen is larger than the canvas."),
+        tr("The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at "
+           "its edge.")
+            .arg(sizeText(screen), sizeText(m_document->project().canvasSize())),
+        {tr("Match Screen"), tr("Keep Canvas"), tr("Cancel")}};
+    ask(this, question, [chosen](int answer) {
+        if (answer < 2)
+            chosen(answer == 0 ? CanvasChoice::matchScreen : CanvasChoice::keepCanvas);
+    });
+}
+
+// A run and a recording end before anything is asked: they have the mouse and the keyboard.
+bool EditorWindow::endInputThen(const std::function<void()> &again)
+{
+    return m_content->liveRun().cancelThen(this, again)
+           || m_content->recordActions().cancelThen(this, again);
+}
+
 void EditorWindow::confirmClose(const Done &done)
 {
-    // A run ends before anything is asked: it has the mouse and the keyboard.
-    if (m_content->liveRun().cancelThen(this, [this, done] { confirmClose(done); }))
+    if (endInputThen([this, done] { confirmClose(done); }))
         return;
     m_content->fieldEditing().commitOpenGesture();
     if (mayClose())
@@ -244,7 +270,7 @@ void EditorWindow::confirmClose(const Done &done)
 
 void EditorWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_content->liveRun().cancelThen(this, [this] { close(); }))
+    if (endInputThen([this] { close(); }))
         return event->ignore();
     m_content->fieldEditing().commitOpenGesture();
     if (mayClose()) {

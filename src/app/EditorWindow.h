@@ -2,6 +2,7 @@
 
 #include "app/DocumentFile.h"
 #include "app/FileWatch.h"
+#include "capture/RecordActionsController.h"
 #include "model/DemoDocument.h"
 
 #include <QMainWindow>
@@ -73,6 +74,8 @@ protected:
 
 private:
     void watchProject();
+    void askAboutCanvas(QSizeF screen, const RecordActionsController::Chosen &chosen);
+    bool endInputThen(const std::function<void()> &again);
     void updateTitle();
     void saveAsThen(const Done &done);
     void saveTo(DocumentFile file, const Done &done);

@@ -1,33 +1,210 @@
-#include "capture/RecordActionsController.h"
+#include "capture/RecordActionsFixture.h"
 
-#include "platform/simulated/SimulatedDesktop.h"
-#include "support/Print.h"
-
-#include <gtest/gtest.h>
+#include <QEventLoop>
 
 namespace velvane {
 
-TEST(RecordActions, UntilItCanRecordItSaysSoAndDoesNothing)
+TEST_F(RecordActionsFixture, ActionsBecomeStepsAfterTheExistingOnesInOneUndoableEdit)
 {
-    SimulatedDesktop desktop;
-    Project project;
-    RecordActionsController controller(project, desktop);
-    QStringList reported;
-    QObject::connect(&controller, &RecordActionsController::reported,
-                     [&](const QString &message) { reported << message; });
-    EXPECT_FALSE(controller.canRecord());
-    controller.recordActions();
-    EXPECT_FALSE(controller.missing().isEmpty());
-    EXPECT_EQ(reported, QStringList({controller.missing()}));
-    EXPECT_TRUE(desktop.log().isEmpty());
+    const QList<Step> before = project.steps();
+    project.setSelection(before.constFirst().id);
+    clickAt(3s);
+    at(4s, [this] { desktop.press(8, Modifier::command); });
+    pressEscapeAt(5s);
+    record();
+    ASSERT_EQ(project.steps().size(), before.size() + 2);
+    EXPECT_EQ(project.steps().first(before.size()), before);
+    EXPECT_EQ(project.steps()[1].kind, StepKind::click);
+    EXPECT_EQ(project.steps()[1].pauseAfter, 1s);
+    EXPECT_EQ(project.steps()[2].kind, StepKind::shortcut);
+    EXPECT_EQ(project.selection(), project.steps().constLast().id);
+    EXPECT_EQ(reported, QStringList({"Recorded 2 steps."}));
+    EXPECT_EQ(controller.outcome(), RecordActionsController::Outcome::recorded);
+    ASSERT_EQ(undo.count(), 1);
+    EXPECT_EQ(undo.undoText(), "Record Actions");
+    undo.undo();
+    EXPECT_EQ(project.steps(), before);
 }
 
-TEST(RecordActions, WhatTheDesktopLacksIsTheReason)
+TEST_F(RecordActionsFixture, OneStepIsSaidInTheSingular)
 {
-    SimulatedDesktop desktop;
-    desktop.tap().setMissing("No listening here.");
-    Project project;
-    EXPECT_EQ(RecordActionsController(project, desktop).missing(), "No listening here.");
+    clickAt(3s);
+    pressEscapeAt(4s);
+    record();
+    EXPECT_EQ(reported, QStringList({"Recorded 1 step."}));
+}
+
+TEST_F(RecordActionsFixture, UndoBringsBackTheRecordingBeforeIt)
+{
+    project.setRecordingBookmark(QByteArray("an older movie"));
+    clickAt(3s);
+    pressEscapeAt(4s);
+    record();
+    EXPECT_FALSE(project.recordingBookmark());
+    undo.undo();
+    EXPECT_EQ(project.recordingBookmark(), QByteArray("an older movie"));
+}
+
+TEST_F(RecordActionsFixture, TheStoryTakesItsTime)
+{
+    QStringList told;
+    for (const Seconds time : {0.1s, 0.5s, 1.2s, 1.9s, 2.6s})
+        at(time, [&] { told << panelText(); });
+    at(0.1s, [this] { EXPECT_TRUE(desktop.shell().hidden()); });
+    at(2.4s, [this] { EXPECT_FALSE(controller.isRecording()); });
+    at(2.6s, [this] { EXPECT_TRUE(controller.isRecording()); });
+    pressEscapeAt(3s);
+    record();
+    EXPECT_EQ(told, QStringList({"", "Recording starts in 3…", "Recording starts in 2…",
+                                 "Recording starts in 1…", "● Recording — Esc to stop"}));
+    EXPECT_NEAR(now(), 3.1, 0.1);
+    EXPECT_FALSE(controller.isRecording());
+    EXPECT_FALSE(controller.isBusy());
+    EXPECT_EQ(desktop.log(), QStringList({"request accessibility", "hide ourselves",
+                                          "unhide ourselves", "activate ourselves"}));
+    EXPECT_EQ(ears(), 0);
+}
+
+TEST_F(RecordActionsFixture, OffsetsCountFromWhenCapturingBegins)
+{
+    clickAt(3.5s);
+    pressEscapeAt(5s);
+    record();
+    EXPECT_NEAR(project.steps()[1].recordedOffset->count(), 1.0, 1e-9);
+}
+
+TEST_F(RecordActionsFixture, WhatHappensBeforeCapturingIsNoStep)
+{
+    clickAt(0.2s);
+    clickAt(1s);
+    clickAt(2.4s);
+    pressEscapeAt(3s);
+    record();
+    EXPECT_EQ(project.steps().size(), 1);
+}
+
+TEST_F(RecordActionsFixture, EscapeItselfIsNoStep)
+{
+    at(3s, [this] { desktop.press(0, 0, "a"); });
+    pressEscapeAt(3.5s);
+    record();
+    ASSERT_EQ(project.steps().size(), 2);
+    EXPECT_EQ(project.steps()[1].text, "a");
+}
+
+TEST_F(RecordActionsFixture, EscapeInTheCountdownEndsItWithoutCapturing)
+{
+    clickAt(1.25s);
+    pressEscapeAt(1.2s);
+    bool captured = false;
+    QObject::connect(&controller, &RecordActionsController::isRecordingChanged,
+                     [&] { captured = true; });
+    record();
+    EXPECT_FALSE(captured);
+    EXPECT_NEAR(now(), 1.25, 0.1);
+    EXPECT_EQ(reported, QStringList({"Recording stopped — no actions captured."}));
+    EXPECT_EQ(controller.outcome(), RecordActionsController::Outcome::nothing);
+    EXPECT_EQ(project.steps().size(), 1);
+    EXPECT_EQ(undo.count(), 0);
+    EXPECT_FALSE(desktop.shell().hidden());
+    EXPECT_EQ(ears(), 0);
+}
+
+TEST_F(RecordActionsFixture, WithoutActionsTheDemoStaysAsItIs)
+{
+    project.setRecordingBookmark(QByteArray("a movie"));
+    const DocState before = project.docState();
+    pressEscapeAt(4s);
+    record();
+    EXPECT_TRUE(project.docState() == before);
+    EXPECT_EQ(undo.count(), 0);
+    EXPECT_EQ(reported, QStringList({"Recording stopped — no actions captured."}));
+    EXPECT_TRUE(desktop.shell().active());
+}
+
+TEST_F(RecordActionsFixture, ListeningThatIsLostEndsItAndKeepsTheStepsSoFar)
+{
+    clickAt(3s);
+    at(4s, [this] { desktop.tap().lose(); });
+    record();
+    EXPECT_NEAR(now(), 4.1, 0.1);
+    EXPECT_EQ(reported, QStringList({"Recorded 1 step."}));
+    EXPECT_EQ(project.steps().size(), 2);
+}
+
+TEST_F(RecordActionsFixture, ThePreviewPausesAndWhatIsBeingEditedIsMadePartOfTheDemo)
+{
+    playback.setTotal(10s);
+    playback.play(60);
+    bool asked = false;
+    QObject::connect(&controller, &RecordActionsController::aboutToRecord, [&] {
+        asked = true;
+        EXPECT_FALSE(controller.isBusy());
+    });
+    pressEscapeAt(3s);
+    record();
+    EXPECT_FALSE(playback.isPlaying());
+    EXPECT_TRUE(asked);
+}
+
+TEST_F(RecordActionsFixture, TheCommandStopsWhatItStarted)
+{
+    clickAt(3s);
+    at(4s, [this] {
+        EXPECT_TRUE(controller.canRecord());
+        controller.recordActions();
+    });
+    record();
+    EXPECT_NEAR(now(), 4.1, 0.1);
+    EXPECT_EQ(reported, QStringList({"Recorded 1 step."}));
+}
+
+TEST_F(RecordActionsFixture, WhileBusyASecondRecordingIsNone)
+{
+    at(1s, [this] {
+        const auto second = controller.record();
+        EXPECT_EQ(desktop.tap().listeners(), 1);
+    });
+    pressEscapeAt(3s);
+    record();
+    EXPECT_EQ(reported.size(), 1);
+}
+
+TEST_F(RecordActionsFixture, OneRecordingAfterAnotherIsTwoEdits)
+{
+    clickAt(3s);
+    pressEscapeAt(4s);
+    record();
+    clickAt(8s);
+    pressEscapeAt(9s);
+    record();
+    EXPECT_EQ(project.steps().size(), 3);
+    EXPECT_EQ(undo.count(), 2);
+}
+
+TEST_F(RecordActionsFixture, AClosingWindowEndsItFirst)
+{
+    EXPECT_FALSE(controller.cancelThen(&controller, [] {}));
+    int again = 0;
+    clickAt(3s);
+    at(4s, [&] { EXPECT_TRUE(controller.cancelThen(&controller, [&] { ++again; })); });
+    record();
+    EXPECT_EQ(again, 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(again, 1);
+    EXPECT_EQ(project.steps().size(), 2);
+}
+
+TEST_F(RecordActionsFixture, ACollapsedSectionOpensForTheStepsItGets)
+{
+    Step section;
+    section.kind = StepKind::section;
+    section.collapsed = true;
+    project.setSteps({section});
+    clickAt(3s);
+    pressEscapeAt(4s);
+    record();
+    EXPECT_FALSE(project.steps()[0].collapsed);
 }
 
 } // namespace velvane

@@ -69,7 +69,7 @@ ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settin
     , m_timeline(project, m_playback)
     , m_catalog(desktop.apps())
     , m_liveRun(project, m_playback, desktop, [&settings] { return RunOptions::from(settings); })
-    , m_recordActions(project, desktop)
+    , m_recordActions(project, m_playback, desktop)
     , m_backdrop(project, m_statusLine, desktop)
     , m_live(m_backdrop, desktop)
     , m_recording(project, m_playback, m_timeline, m_backdrop, m_statusLine)
@@ -97,6 +97,7 @@ ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settin
     wireStage();
     wireLiveBackdrop();
     wireLiveRun();
+    wireRecordActions();
     wireRecording();
     connect(m_inspector, &InspectorPane::appChosen, this,
             [&desktop](const QString &name) { Live::raiseBehindUs(desktop, name); });
@@ -191,18 +192,34 @@ void ContentView::wireLiveRun()
 {
     connect(&m_liveRun, &LiveRunController::aboutToRun, &m_fieldEditing,
             &FieldEditing::commitOpenGesture);
-    // All three hear Esc and take the pointer or the keyboard.
-    connect(&m_liveRun, &LiveRunController::missingChanged, this, [this] {
-        const QString reason = m_liveRun.isBusy() ? m_liveRun.missing() : QString();
-        m_recordActions.hold(reason);
-        m_pickLocation.hold(reason);
-    });
+    connect(&m_liveRun, &LiveRunController::missingChanged, this, &ContentView::takeTurns);
     connect(&m_liveRun, &LiveRunController::liveCountdownChanged, this, [this] {
         const QStringList apps = StepList::distinctSwitchApps(m_project.steps());
         m_overlay->setCountdown(m_liveRun.liveCountdown(), apps.value(0));
     });
     connect(&m_liveRun, &LiveRunController::isRunningLiveChanged, this,
             [this] { m_overlay->setRunning(m_liveRun.isRunningLive()); });
+}
+
+void ContentView::wireRecordActions()
+{
+    connect(&m_recordActions, &RecordActionsController::aboutToRecord, &m_fieldEditing,
+            &FieldEditing::commitOpenGesture);
+    connect(&m_recordActions, &RecordActionsController::missingChanged, this,
+            &ContentView::takeTurns);
+    connect(&m_recordActions, &RecordActionsController::movieRecorded, this,
+            [this] { m_backdrop.setShowRecording(true); });
+}
+
+// All three hear Esc and take the pointer or the keyboard: one at a time.
+void ContentView::takeTurns()
+{
+    const QString running = m_liveRun.isBusy() ? m_liveRun.missing() : QString();
+    const QString recording =
+        m_recordActions.isBusy() ? tr("Actions are being recorded.") : QString();
+    m_liveRun.hold(recording);
+    m_recordActions.hold(running);
+    m_pickLocation.hold(running.isEmpty() ? recording : running);
 }
 
 void ContentView::wireRecording()

@@ -52,7 +52,7 @@ struct PaneWidths {
 /// | FieldEditing | bump (of seconds and coordinates) focusedField |
 /// | LiveRunController | runLive liveSnapshot liveCountdown isRunningLive liveCancel |
 /// | Live | raiseBehindUs |
-/// | RecordActionsController | recordActions isRecording |
+/// | RecordActionsController | recordActions isRecording recordCancel |
 /// | BackdropController | freezeFrame showLive frozen showRecording |
 /// | RecordingBackdrop | loadRecordingBackdrop syncBackdropTime videoBackdrop (its video) |
 /// | ExportController | exportMovie isExporting exportProgress |
@@ -108,6 +108,8 @@ private:
     void wireStage();
     void wireLiveBackdrop();
     void wireLiveRun();
+    void wireRecordActions();
+    void takeTurns();
     void wireRecording();
     void condense();
     void sizePanes();

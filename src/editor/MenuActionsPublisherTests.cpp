@@ -134,14 +134,14 @@ TEST_F(MenuActionsPublisherTest, WhatTheControllersCannotDoTheMenusCannot)
 TEST_F(MenuActionsPublisherTest, RunningAndRecordingSayWhyNotInTheStatusLine)
 {
     desktop.input().setMissing("No input here.");
+    desktop.tap().setMissing("No listening here.");
     open({stepOf(StepKind::click)});
     EXPECT_FALSE(actions().canRunLive);
     actions().runLive();
     EXPECT_EQ(view->statusLine().message(), "No input here.");
-    if (!actions().canRecord) {
-        actions().record();
-        EXPECT_EQ(view->statusLine().message(), view->recordActions().missing());
-    }
+    EXPECT_FALSE(actions().canRecord);
+    actions().record();
+    EXPECT_EQ(view->statusLine().message(), "No listening here.");
 }
 
 TEST_F(MenuActionsPublisherTest, OnlyADemoOfOneAppCanBeRecordedByItsWindow)

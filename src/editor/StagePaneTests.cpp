@@ -95,7 +95,8 @@ TEST_F(StagePaneTest, TheHintOffersToRecordOnceThereIsWhoRecords)
 {
     IconButton &button = stage.canvas.hint().recordButton();
     EXPECT_TRUE(button.isHidden());
-    RecordActionsController record(stage.project, desktop);
+    Playback playback;
+    RecordActionsController record(stage.project, playback, desktop);
     pane.offerRecording(record);
     EXPECT_FALSE(button.isHidden());
     EXPECT_EQ(button.isEnabled(), record.canRecord());

@@ -54,10 +54,18 @@ QString LiveRunController::missing() const
 {
     if (m_isBusy)
         return tr("A live run is in progress.");
+    if (!m_held.isEmpty())
+        return m_held;
     if (!m_desktop.permissions().granted(Permission::accessibility))
         return {};
     const QString reason = m_desktop.input().missing();
     return reason.isEmpty() ? m_desktop.keys().missing() : reason;
+}
+
+void LiveRunController::hold(const QString &reason)
+{
+    if (std::exchange(m_held, reason) != reason)
+        Q_EMIT missingChanged();
 }
 
 // Why the demo cannot be run now; empty when it can. Asks for the permission.

@@ -33,6 +33,8 @@ public:
     /// Why none can start now: one sentence for a tooltip; empty when one can, or when only the
     /// permission is withheld, for which a run asks.
     QString missing() const;
+    /// Lets none start while something else goes on: the reason for missing(); empty ends it.
+    void hold(const QString &reason);
 
     /// From the beginning of the countdown until the report.
     bool isBusy() const { return m_isBusy; }
@@ -83,6 +85,7 @@ private:
     Desktop &m_desktop;
     const std::function<RunOptions()> m_readOptions;
     RunOptions m_options;
+    QString m_held;
     Token m_escMonitor;
     Outcome m_outcome = Outcome::refused;
     bool m_isBusy = false;
