@@ -5,7 +5,6 @@
 #include "editor/Theme.h"
 #include "model/DocumentError.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QIcon>
 #include <QSettings>
@@ -21,13 +20,6 @@ static void loadIcons()
 namespace velvane {
 
 namespace {
-
-bool hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY")
-           || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-           || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-}
 
 // Qt ends the process when the display does not answer, after a page of advice.
 void oneLineWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
@@ -64,6 +56,21 @@ VelvaneApp::VelvaneApp(Desktop &desktop, QSettings &settings)
                      &AppDelegate::sessionWillEnd, Qt::DirectConnection);
 }
 
+bool VelvaneApp::hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY")
+           || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+           || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+std::unique_ptr<QApplication> VelvaneApp::makeApplication(int &argc, char **argv)
+{
+    const QtMessageHandler usual = qInstallMessageHandler(oneLineWithoutDisplay);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(usual);
+    return application;
+}
+
 bool VelvaneApp::open(const std::vector<std::string> &demos)
 {
     // All are read before any window opens.
@@ -90,12 +97,10 @@ int VelvaneApp::run(int &argc, char **argv, const std::vector<std::string> &demo
         std::cerr << "velvane: there is no display to open a window on (see velvane --help)\n";
         return 1;
     }
-    const QtMessageHandler usual = qInstallMessageHandler(oneLineWithoutDisplay);
-    QApplication application(argc, argv);
-    qInstallMessageHandler(usual);
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     loadIcons();
     nameApplication();
-    Theme::instance().install(application);
+    Theme::instance().install(*application);
     const std::unique_ptr<Desktop> desktop = Desktop::open();
     QSettings settings;
     VelvaneApp app(*desktop, settings);

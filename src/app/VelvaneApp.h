@@ -3,6 +3,9 @@
 #include "app/AppDelegate.h"
 #include "app/Documents.h"
 
+#include <QApplication>
+
+#include <memory>
 #include <string>
 
 namespace velvane {
@@ -15,6 +18,12 @@ public:
     /// Returns the exit status: 1 after one line on standard error when there is no display or a
     /// demo cannot be read.
     static int run(int &argc, char **argv, const std::vector<std::string> &demos);
+
+    /// Is there one to open a window on?
+    static bool hasDisplay();
+    /// The application object on that display. When it does not answer, the process ends with
+    /// status 1 after one line on standard error.
+    static std::unique_ptr<QApplication> makeApplication(int &argc, char **argv);
 
 private:
     VelvaneApp(Desktop &desktop, QSettings &settings);

@@ -28,6 +28,10 @@ int main(int argc, char **argv)
         return *status;
     if (!commandLine.hasCommand())
         return velvane::VelvaneApp::run(argc, argv, commandLine.demos());
+    if (commandLine.showsPanel() && velvane::VelvaneApp::hasDisplay()) {
+        const auto application = velvane::VelvaneApp::makeApplication(argc, argv);
+        return commandLine.run();
+    }
     // Rendering needs fonts but no display; the applications that a demo starts need theirs.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     qputenv("QT_QPA_PLATFORM", "offscreen");

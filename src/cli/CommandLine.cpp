@@ -44,6 +44,7 @@ CommandLine::CommandLine(Console console)
     addExport(*m_app, m_console, m_action);
     addConvert(*m_app, m_console, m_action);
     addRun(*m_app, m_console, m_action);
+    addRecord(*m_app, m_console, m_action);
     addDoctor(*m_app, m_console, m_action);
     // Last, since subcommands take over the footer that stands when they are added.
     m_app->footer(closing);
@@ -64,6 +65,11 @@ std::optional<int> CommandLine::parse(int argc, const char *const *argv)
                       << " (see velvane --help)\n";
         return wrongUsage;
     }
+}
+
+bool CommandLine::showsPanel() const
+{
+    return m_app->got_subcommand("record");
 }
 
 int CommandLine::run()

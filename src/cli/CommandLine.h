@@ -19,6 +19,8 @@ public:
 
     /// Was a subcommand named? Otherwise demos() are to be opened in a window.
     bool hasCommand() const { return bool(m_action); }
+    /// Does the subcommand show something on the desktop? It then needs a QApplication.
+    bool showsPanel() const;
     const std::vector<std::string> &demos() const { return m_demos; }
 
     /// Runs the subcommand and returns its exit status; needs the application object. What goes

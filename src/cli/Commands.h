@@ -22,6 +22,7 @@ void addFrame(CLI::App &app, Console &console, Action &chosen);
 void addExport(CLI::App &app, Console &console, Action &chosen);
 void addConvert(CLI::App &app, Console &console, Action &chosen);
 void addRun(CLI::App &app, Console &console, Action &chosen);
+void addRecord(CLI::App &app, Console &console, Action &chosen);
 void addDoctor(CLI::App &app, Console &console, Action &chosen);
 
 } // namespace velvane::cli

@@ -1,20 +1,14 @@
 #include "cli/DemoRun.h"
 
-#include "cli/Interrupt.h"
 #include "cli/Waiting.h"
 #include "live/LiveRunController.h"
 #include "model/StepList.h"
-
-#include <QTimer>
 
 #include <algorithm>
 
 namespace velvane::cli {
 
 namespace {
-
-// How often, in milliseconds, the main thread looks for a signal.
-constexpr int interruptCheck = 20;
 
 std::optional<QUuid> stepNamed(const QList<Step> &steps, const QString &name)
 {
@@ -68,15 +62,7 @@ int runDemo(DemoDocument &demo, Desktop &desktop, const DemoRun &run, Console &c
             outcome = message;
     });
 
-    const Interrupt interrupt;
-    QTimer signalCheck;
-    signalCheck.setTimerType(Qt::PreciseTimer);
-    signalCheck.callOnTimeout(&live, [&] {
-        if (interrupt.happened() && !live.liveCancel())
-            live.cancel();
-    });
-    signalCheck.start(interruptCheck);
-    Waiting::forTask(live.runLive(from));
+    Waiting::forTask([&] { return live.runLive(from); }, [&] { live.cancel(); });
 
     if (live.outcome() == LiveRunController::Outcome::refused)
         throw CommandError(outcome);

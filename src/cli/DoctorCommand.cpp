@@ -111,7 +111,7 @@ int examine(Console &console)
         if (!finding.good)
             console.out << "  " << finding.remedy.toStdString() << '\n';
     }
-    console.out << "\nRecording of actions and screen recordings are not built yet.\n";
+    console.out << "\nScreen recordings are not built yet.\n";
     return 0;
 }
 

@@ -1,0 +1,86 @@
+#include "cli/DemoRecord.h"
+
+#include "capture/RecordActionsController.h"
+#include "cli/DemoFile.h"
+#include "cli/Waiting.h"
+
+#include <QFileInfo>
+
+namespace velvane::cli {
+
+namespace {
+
+// In a terminal no page of settings is opened.
+void checkPermissions(Permissions &permissions)
+{
+    for (const auto permission : {Permission::accessibility, Permission::inputMonitoring}) {
+        const QString withheld = permissions.explanation(permission);
+        if (!withheld.isEmpty())
+            throw CommandError(withheld);
+    }
+}
+
+// Better now than after somebody has performed a demo for it.
+void checkWritable(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.isWritable() || !QFileInfo(file.absolutePath()).isWritable())
+        throw CommandError(QString::fromStdString(printable(path + ": is not writable")));
+}
+
+std::string sizeText(QSizeF size)
+{
+    return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()).toStdString();
+}
+
+void tellLargerScreen(const RecordActionsController &recording, QSizeF canvas, Console &console)
+{
+    if (const std::optional<QSizeF> screen = recording.largerScreen())
+        console.err << "The screen (" << sizeText(*screen) << ") is larger than the canvas ("
+                    << sizeText(canvas) << "): what lies beyond is recorded at the canvas's edge."
+                    << std::endl;
+}
+
+// Another program may have saved the demo meanwhile: the steps go to what the file holds now.
+void append(const QList<Step> &steps, const std::optional<QByteArray> &movie,
+            const std::string &demo)
+{
+    DemoDocument latest = readDemo(demo);
+    Project &project = latest.project();
+    project.setSteps(project.steps() + steps);
+    project.setRecordingBookmark(movie);
+    writeDemo(project.fileSnapshot(), fileName(demo));
+}
+
+} // namespace
+
+int recordDemo(const std::string &demo, Desktop &desktop, Console &console)
+{
+    DemoDocument document = readDemo(demo);
+    checkWritable(fileName(demo));
+    checkPermissions(desktop.permissions());
+    Project &project = document.project();
+    const qsizetype before = project.steps().size();
+    Playback playback;
+    RecordActionsController recording(project, playback, desktop);
+    QString outcome;
+    QObject::connect(&recording, &RecordActionsController::reported, &recording,
+                     [&](const QString &message) {
+                         if (recording.isBusy())
+                             console.err << printable(message) << std::endl;
+                         else
+                             outcome = message;
+                     });
+    tellLargerScreen(recording, project.canvasSize(), console);
+    Waiting::forTask([&] { return recording.record(); }, [&] { recording.cancel(); });
+
+    using Outcome = RecordActionsController::Outcome;
+    if (recording.outcome() == Outcome::refused)
+        throw CommandError(outcome);
+    if (recording.outcome() == Outcome::recorded)
+        append(project.steps().sliced(before), project.recordingBookmark(), demo);
+    console.out << printable(outcome) << std::endl;
+    return 0;
+}
+
+} // namespace velvane::cli
