@@ -1,0 +1,355 @@
+#!/usr/bin/python3
+"""Recording real actions on a real display: another process posts input into real programs, and the
+steps that are saved are compared with what an independent listener heard; run live, they make the
+same input again."""
+
+import os
+import plistlib
+import re
+import signal
+import subprocess
+import time
+
+from accessible import wait_for
+from driver import xdotool
+from fixture import PROGRAM, EditorTest, main, step
+from heard import Heard
+from server import Server
+
+SCREEN = (1920, 1080)
+START = (640.0, 400.0)
+LEFT, RIGHT = 1, 3
+ESCAPE, RETURN, CONTROL, C = 9, 36, 37, 54  # X key codes
+# Seconds: how exactly the moment of an event is known, and what one rests for a place to be meant.
+CLOSE, REST = 0.02, 0.6
+
+
+def shown(pattern, by="--class"):
+    """The windows on the screen of this class or, with --name, of this title."""
+    search = ["xdotool", "search", "--onlyvisible", by, pattern]
+    return subprocess.run(search, capture_output=True, text=True, check=False).stdout.split()
+
+
+def active():
+    """The window with the keyboard; none while the window manager passes it on."""
+    command = ["xdotool", "getactivewindow"]
+    return subprocess.run(command, capture_output=True, text=True, check=False).stdout.strip()
+
+
+def stacked():
+    """The numbers of the root's children, the topmost first."""
+    tree = subprocess.run(["xwininfo", "-root", "-children"], capture_output=True, text=True,
+                          check=True).stdout
+    return [int(number, 16) for number in re.findall(r"^\s+(0x[0-9a-f]+)", tree, re.M)]
+
+
+def place(window):
+    told = xdotool("getwindowgeometry", "--shell", window)
+    values = dict(line.split("=") for line in told.split())
+    return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+
+def without(steps, kind):
+    return [step for step in steps if step["kind"] != kind]
+
+
+class RecordingTest(EditorTest):
+    def setUp(self):
+        super().setUp()
+        # Away from where any demo starts.
+        xdotool("mousemove", 5, 5)
+        self.heard = Heard()
+        self.addCleanup(self.heard.close)
+
+    def write(self, *steps, canvas=SCREEN):
+        root = {"version": 1, "steps": list(steps), "startPoint": list(START),
+                "canvasSize": [float(side) for side in canvas], "fps": 60}
+        self.demo.write_bytes(plistlib.dumps(root, fmt=plistlib.FMT_BINARY))
+
+    @property
+    def steps(self):
+        return plistlib.loads(self.demo.read_bytes())["steps"]
+
+    def command(self, *arguments, **environment):
+        process = subprocess.Popen([PROGRAM, *arguments, str(self.demo)], stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE, text=True,
+                                   env={**os.environ, **environment})
+        self.addCleanup(process.kill)
+        return process
+
+    def ended(self, process, status, out="", err=""):
+        told = process.communicate(timeout=60)
+        self.assertEqual((process.returncode, *told), (status, out, err))
+
+    def application(self, name, *command):
+        """Starts a program and waits for its window to have the keyboard."""
+        process = subprocess.Popen(command, stderr=subprocess.DEVNULL)
+        self.addCleanup(process.wait)
+        self.addCleanup(process.terminate)
+        window = wait_for(lambda: shown(f"^{name}$"), f"the window of {name}")[0]
+        wait_for(lambda: active() == window, f"{name} to be active")
+        return window
+
+    def xterm(self):
+        # It outlives a Ctrl-C.
+        return self.application("xterm", "xterm", "-geometry", "60x20+100+200", "-e", "sh", "-c",
+                                "stty -isig; exec cat")
+
+    def mousepad(self):
+        return self.application("mousepad", "mousepad", "--disable-server")
+
+    def panel(self, text):
+        return wait_for(lambda: shown(f"^{text}", "--name"), f"the panel saying {text}")[0]
+
+    def wait_capturing(self):
+        self.panel("Recording starts in")
+        return self.panel("● Recording — Esc to stop")
+
+    def record(self):
+        """Starts to record from the command line."""
+        process = self.command("record")
+        self.wait_capturing()
+        return process
+
+
+class FromTheCommandLine(RecordingTest):
+    def perform(self, terminal, editor):
+        """A little of everything, in two programs, by another process."""
+        x, y, width, height = place(editor)
+        xdotool("mousemove", 300, 300)
+        time.sleep(REST)
+        xdotool("click", LEFT)
+        time.sleep(REST)
+        xdotool("type", "--delay", 30, "hello you")
+        xdotool("key", "Return")
+        xdotool("key", "ctrl+c")
+        time.sleep(REST)
+        xdotool("mousemove", x + width // 2, y + height // 2, "click", LEFT)
+        wait_for(lambda: active() == editor, "the editor in front")
+        xdotool("type", "--delay", 30, "words")
+        time.sleep(REST)
+        xdotool("mousemove", x + 60, y + height // 2, "mousedown", LEFT)
+        for way in (20, 50, 90):
+            xdotool("mousemove", x + 60 + way, y + height // 2 + way // 3)
+        xdotool("mouseup", LEFT)
+        time.sleep(REST)
+        xdotool("key", "Escape")
+        return (x + width // 2, y + height // 2), (x + 60, y + height // 2)
+
+    def test_what_is_posted_is_what_is_saved_and_what_a_live_run_makes_again(self):
+        editor, terminal = self.mousepad(), self.xterm()
+        self.write(step("wait", pauseAfter=0.5))
+        process = self.record()
+        since = self.heard.forget()
+        middle, grip = self.perform(terminal, editor)
+        posted = self.heard.events[since:]
+        out, err = process.communicate(timeout=60)
+        steps = self.steps[1:]
+        self.assertEqual((out, err), (f"Recorded {len(steps)} steps.\n", ""))
+        self.compare_steps(without(steps, "switchApp"), middle, grip)
+        self.compare_times(steps, posted)
+        switches = [step["text"] for step in steps if step["kind"] == "switchApp"]
+        self.assertEqual(len(switches), 1, switches)
+
+        # The terminal is in front again, as when it began.
+        xdotool("windowactivate", "--sync", terminal)
+        again = self.heard.forget()
+        self.ended(self.command("run", "--no-countdown"), 0, out="Live run finished.\n")
+        self.assertEqual(self.heard.buttons(again), self.buttons_of(posted))
+        self.assertEqual(self.pressed(self.heard.events[again:]), self.pressed(posted))
+        self.assertEqual(self.heard.held(), set())
+
+    def buttons_of(self, events):
+        return [event[1:5] for event in events if event[1].startswith("button")]
+
+    def pressed(self, events):
+        """The keys that went down; in which order they come up is no step's."""
+        return [event[2] for event in events if event[1] == "key-down" and event[2] != ESCAPE]
+
+    def compare_steps(self, steps, middle, grip):
+        self.assertEqual(
+            [step["kind"] for step in steps],
+            ["move", "click", "type", "shortcut", "shortcut", "move", "click", "type",
+             "move", "hold", "move", "release"])
+        points = [tuple(step["point"]) for step in steps if step["kind"] == "move"]
+        self.assertEqual(points, [(300, 300), middle, grip, (grip[0] + 90, grip[1] + 30)])
+        self.assertEqual([s["text"] for s in steps if s["kind"] == "type"], ["hello you", "words"])
+        keys = [(s["keyCode"], s["modifiers"]) for s in steps if s["kind"] == "shortcut"]
+        self.assertEqual(keys, [(36, 0), (8, 0x40000)])
+        for one in steps:
+            self.assertAlmostEqual(one["pauseAfter"] * 10, round(one["pauseAfter"] * 10))
+            self.assertLessEqual(one["pauseAfter"], 2.5)
+
+    def compare_times(self, steps, posted):
+        """The steps' offsets and pauses are those of the events, as the server has them."""
+        ups = [event[0] / 1000 for event in posted if event[1] == "button-up"]
+        offsets = [s["recordedOffset"] for s in steps if s["kind"] in ("click", "release")]
+        for (a, b), (c, d) in zip(zip(ups, ups[1:]), zip(offsets, offsets[1:])):
+            self.assertAlmostEqual(b - a, d - c, delta=CLOSE)
+        all_offsets = [s["recordedOffset"] for s in steps]
+        self.assertEqual(all_offsets, sorted(all_offsets))
+        enter = next(e[0] for e in posted if e[1:3] == ("key-down", RETURN)) / 1000
+        control = next(e[0] for e in posted if e[1:3] == ("key-down", C)) / 1000
+        shortcut = next(s for s in steps if s["kind"] == "shortcut")
+        self.assertAlmostEqual(shortcut["pauseAfter"], min(control - enter, 2.5), delta=0.05 + CLOSE)
+
+    def test_a_layout_that_changes_in_a_word_is_followed(self):
+        self.xterm()
+        self.write()
+        process = self.record()
+        self.addCleanup(subprocess.run, ["setxkbmap", "us"], check=False)
+        y_of_us = 29
+        xdotool("key", y_of_us)
+        subprocess.run(["setxkbmap", "de"], check=True)
+        xdotool("key", y_of_us)
+        xdotool("key", "Escape")
+        self.ended(process, 0, out="Recorded 1 step.\n")
+        self.assertEqual([s["text"] for s in self.steps], ["yz"])
+
+    def test_a_flood_of_events_is_recorded_whole(self):
+        self.xterm()
+        self.write()
+        process = self.record()
+        motions = [word for i in range(2000) for word in ("mousemove", 200 + i % 300, 300)]
+        xdotool("mousemove", 200, 300, "click", LEFT, *motions, "mousemove", 900, 600)
+        xdotool("type", "--delay", 0, "x" * 300)
+        xdotool("click", RIGHT)
+        xdotool("key", "Escape", "Escape")
+        process.wait(60)
+        steps = without(self.steps, "switchApp")
+        self.assertEqual([s["kind"] for s in steps if s["kind"] != "move"],
+                         ["click", "type", "rightClick"])
+        self.assertEqual(next(s["text"] for s in steps if s["kind"] == "type"), "x" * 300)
+        self.assertEqual([s for s in steps if s["kind"] == "move"][-1]["point"], [900, 600])
+
+    def test_escape_in_the_countdown_leaves_the_demo_untouched(self):
+        self.write(step("click"))
+        before = self.demo.read_bytes()
+        process = self.command("record")
+        self.panel("Recording starts in")
+        xdotool("key", "Escape")
+        self.ended(process, 0, out="Recording stopped — no actions captured.\n")
+        self.assertEqual(self.demo.read_bytes(), before)
+        self.assertEqual(shown("Recording", "--name"), [])
+
+    def test_ctrl_c_ends_it_and_saves(self):
+        self.write()
+        process = self.record()
+        xdotool("mousemove", 700, 700, "click", LEFT)
+        wait_for(lambda: len(self.heard.buttons()) == 2, "the click")
+        time.sleep(REST)
+        process.send_signal(signal.SIGINT)
+        self.ended(process, 0, out="Recorded 2 steps.\n")
+        self.assertEqual([s["kind"] for s in self.steps], ["move", "click"])
+
+    def test_a_smaller_canvas_is_told_and_kept(self):
+        self.write(canvas=(1280, 800))
+        process = self.record()
+        xdotool("mousemove", 1900, 1000, "click", LEFT)
+        time.sleep(REST)
+        xdotool("key", "Escape")
+        self.ended(process, 0, out="Recorded 2 steps.\n",
+                   err="The screen (1920 × 1080) is larger than the canvas (1280 × 800): "
+                       "what lies beyond is recorded at the canvas's edge.\n")
+        self.assertEqual(self.steps[0]["point"], [1280, 800])
+
+    def test_the_panel_lies_above_everything_and_takes_nothing(self):
+        terminal = self.xterm()
+        self.write()
+        process = self.record()
+        panel = self.panel("● Recording")
+        self.assertEqual(place(panel), ((SCREEN[0] - 360) // 2, 40, 360, 52))
+        self.assertEqual(active(), terminal)
+        # Whatever comes forward comes below it.
+        for _ in range(2):
+            other = self.application("mousepad", "mousepad", "--disable-server")
+            subprocess.run(["wmctrl", "-i", "-r", other, "-b", "add,fullscreen"], check=True)
+            wait_for(lambda: place(other)[2] == SCREEN[0], "a full screen")
+            wait_for(lambda: stacked()[0] == int(panel), "the panel on top")
+            terminal = other
+        # A click on it reaches what is below.
+        xdotool("mousemove", SCREEN[0] // 2, 60)
+        under = xdotool("getmouselocation", "--shell")
+        self.assertNotIn(f"WINDOW={panel}\n", under)
+        self.assertEqual(active(), terminal)
+        xdotool("key", "Escape")
+        process.wait(60)
+        self.assertEqual(shown("Recording", "--name"), [])
+
+    def test_without_a_display_it_refuses_in_a_sentence(self):
+        self.write()
+        for display in ("", ":4711"):
+            process = self.command("record", DISPLAY=display)
+            out, err = process.communicate(timeout=60)
+            self.assertEqual((process.returncode, out, err.count("\n")), (1, "", 1), err)
+
+    def test_without_the_record_extension_it_refuses_in_a_sentence(self):
+        server = Server("-extension", "RECORD")
+        self.addCleanup(server.stop)
+        self.write()
+        process = self.command("record", DISPLAY=server.display)
+        out, err = process.communicate(timeout=60)
+        self.assertEqual((process.returncode, out, err.count("\n")), (1, "", 1), err)
+        self.assertIn("RECORD", err)
+
+
+class FromTheEditor(RecordingTest):
+    def open_recorder(self, canvas=SCREEN):
+        self.write(step("click"), canvas=canvas)
+        return self.run_editor()
+
+    def is_minimized(self, window):
+        told = subprocess.run(["xprop", "-id", window, "_NET_WM_STATE"], capture_output=True,
+                              text=True, check=True).stdout
+        return "_NET_WM_STATE_HIDDEN" in told
+
+    def test_a_task_in_two_programs_becomes_steps(self):
+        other, terminal = self.mousepad(), self.xterm()
+        editor = self.open_recorder()
+        window = active()
+        editor.click(editor.find("push button", "Record"))
+        self.wait_capturing()
+        self.assertTrue(self.is_minimized(window))
+        xdotool("mousemove", 300, 300, "click", LEFT)
+        wait_for(lambda: active() == terminal, "the terminal")
+        xdotool("type", "--delay", 30, "ls")
+        x, y, width, height = place(other)
+        xdotool("mousemove", x + width - 40, y + height - 40, "click", LEFT)
+        time.sleep(REST)
+        xdotool("key", "Escape")
+        wait_for(lambda: not self.is_minimized(window), "the editor")
+        wait_for(lambda: active() == window, "the editor in front")
+        kinds = [s["kind"] for s in without(editor.saved_steps(), "switchApp")]
+        self.assertEqual(kinds, ["click", "move", "click", "type", "move", "click"])
+        count = len(self.steps) - 1
+        editor.key("ctrl+z")
+        editor.wait_rows("1, Click")
+        self.assertGreater(count, 5)
+
+    def test_a_larger_screen_is_offered_once(self):
+        editor = self.open_recorder(canvas=(1280, 800))
+        editor.key("ctrl+shift+r")
+        editor.wait_question("The screen is larger than the canvas.")
+        editor.key("Return")
+        self.wait_capturing()
+        xdotool("mousemove", 1900, 1000, "click", LEFT)
+        time.sleep(REST)
+        xdotool("key", "Escape")
+        editor.wait_status("Recorded 2 steps.")
+        saved = editor.saved()
+        self.assertEqual(saved["canvasSize"], list(SCREEN))
+        self.assertEqual(saved["steps"][1]["point"], [1900, 1000])
+
+    def test_escape_in_the_countdown_brings_the_editor_back(self):
+        editor = self.open_recorder()
+        window = active()
+        editor.key("ctrl+shift+r")
+        self.panel("Recording starts in")
+        xdotool("key", "Escape")
+        wait_for(lambda: active() == window, "the editor in front")
+        editor.wait_status("Recording stopped — no actions captured.")
+        editor.wait_rows("1, Click")
+
+
+if __name__ == "__main__":
+    main()
