@@ -1,6 +1,7 @@
 #include "app/DocumentsFixture.h"
 
 #include "base/KeyCode.h"
+#include "support/TemporaryHome.h"
 
 #include <QEventLoop>
 #include <QPointer>
@@ -32,6 +33,7 @@ struct RecordingInWindow : DocumentsFixture {
         settle();
     }
 
+    TemporaryHome home;
     QPointer<EditorWindow> window;
 };
 

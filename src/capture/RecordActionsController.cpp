@@ -3,6 +3,7 @@
 #include "capture/Bookmark.h"
 #include "model/StepList.h"
 
+#include <exception>
 #include <utility>
 
 namespace velvane {
@@ -80,12 +81,14 @@ QCoro::Task<> RecordActionsController::record()
         m_recorder->setPanelText(tr("Recording starts in %1…").arg(n));
     };
     co_await m_stop.countDown(eachNumber, show);
+    const std::unique_ptr<RunRecorder> movie = startMovie();
     co_await capture();
     const QList<Step> steps = m_recorder->finish();
     m_desktop.shell().unhide();
+    if (movie)
+        co_await movie->stop();
     m_stop.stopWatching();
-    // No movie is made alongside yet.
-    end(keep(steps, {}));
+    end(keep(steps, movie ? movie->url() : QString()));
 }
 
 // Makes ready; says why when it cannot.
@@ -122,6 +125,21 @@ bool RecordActionsController::prepare()
     m_desktop.shell().unhide();
     end(tr("Couldn't start recording — grant Input Monitoring to Velvane in System Settings."));
     return false;
+}
+
+// Of the whole screen, a pixel for each of the canvas's points. What keeps it from being made is
+// not told: the steps are what was asked for.
+std::unique_ptr<RunRecorder> RecordActionsController::startMovie() const
+{
+    if (m_stop.isMade())
+        return {};
+    try {
+        auto movie = std::make_unique<RunRecorder>(m_desktop);
+        movie->start(RecordScope::screen, {}, false, true);
+        return movie;
+    } catch (const std::exception &) {
+        return {};
+    }
 }
 
 QCoro::Task<> RecordActionsController::capture()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "capture/ActionRecorder.h"
+#include "capture/RunRecorder.h"
 #include "capture/StopRequest.h"
 #include "model/Project.h"
 #include "timeline/Playback.h"
@@ -14,7 +15,8 @@ namespace velvane {
 enum class CanvasChoice { matchScreen, keepCanvas };
 
 /// Records real mouse and keyboard actions and appends them to the demo as steps: checks,
-/// countdown, recording until Esc, report. Main thread only.
+/// countdown, recording until Esc, report. A movie of the screen is made alongside, which becomes
+/// the demo's recording; without one the rest goes on. Main thread only.
 ///
 /// Must not be destroyed while busy: see cancelThen().
 class RecordActionsController : public QObject {
@@ -80,6 +82,7 @@ Q_SIGNALS:
 private:
     bool begin();
     bool prepare();
+    std::unique_ptr<RunRecorder> startMovie() const;
     QCoro::Task<> capture();
     QString keep(const QList<Step> &steps, const QString &movie);
     void end(const QString &message);

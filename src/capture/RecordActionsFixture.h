@@ -5,6 +5,7 @@
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
 #include "support/RunToEnd.h"
+#include "support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +51,7 @@ struct RecordActionsFixture : testing::Test {
     int ears() { return desktop.tap().listeners() + desktop.keys().watches(); }
     double now() { return desktop.clock().now().count(); }
 
+    TemporaryHome home;
     SimulatedDesktop desktop;
     Project project;
     QUndoStack undo;

@@ -5,6 +5,7 @@
 #include "model/ProjectFile.h"
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
+#include "support/TemporaryHome.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -63,6 +64,7 @@ protected:
         return reason;
     }
 
+    TemporaryHome home;
     QTemporaryDir folder;
     const QString path = folder.filePath("demo.velvane");
     SimulatedDesktop desktop;

@@ -4,6 +4,7 @@
 #include "editor/MenuActions.h"
 #include "support/EditorFixture.h"
 #include "support/RunToEnd.h"
+#include "support/TemporaryHome.h"
 
 namespace velvane {
 
@@ -27,6 +28,8 @@ struct RecordActionsInWindow : EditorFixture {
         runToEnd(view->recordActions().record());
     }
     const MenuActions &menus() { return *view->menuActions().menuActions(); }
+
+    TemporaryHome home;
 };
 
 } // namespace

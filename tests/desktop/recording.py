@@ -9,6 +9,7 @@ import re
 import signal
 import subprocess
 import time
+from pathlib import Path
 
 from accessible import wait_for
 from driver import xdotool
@@ -145,7 +146,7 @@ class FromTheCommandLine(RecordingTest):
         posted = self.heard.events[since:]
         out, err = process.communicate(timeout=60)
         steps = self.steps[1:]
-        self.assertEqual((out, err), (f"Recorded {len(steps)} steps.\n", ""))
+        self.assertEqual((out, err), (f"Recorded {len(steps)} steps with screen recording.\n", ""))
         self.compare_steps(without(steps, "switchApp"), middle, grip)
         self.compare_times(steps, posted)
         switches = [step["text"] for step in steps if step["kind"] == "switchApp"]
@@ -193,6 +194,53 @@ class FromTheCommandLine(RecordingTest):
         shortcut = next(s for s in steps if s["kind"] == "shortcut")
         self.assertAlmostEqual(shortcut["pauseAfter"], min(control - enter, 2.5), delta=0.05 + CLOSE)
 
+    def test_the_movie_shows_what_happened_when_it_did(self):
+        # Return turns it from red to blue.
+        self.application("xterm", "xterm", "-geometry", "60x20+100+200", "-e", "sh", "-c",
+                         r"printf '\033]11;#b02020\007'; read x; "
+                         r"printf '\033]11;#2020b0\007'; cat")
+        self.write()
+        process = self.record()
+        time.sleep(1)
+        xdotool("key", "Return")
+        time.sleep(1)
+        xdotool("mousemove", 1200, 900, "click", RIGHT)
+        time.sleep(REST)
+        xdotool("key", "Escape")
+        self.ended(process, 0, out="Recorded 3 steps with screen recording.\n")
+        saved = plistlib.loads(self.demo.read_bytes())
+        movie = Path(saved["recordingBookmark"].decode().split("\n")[4])
+        self.assertEqual(movie.parent, Path.home() / "Movies" / "Velvane")
+        turned = saved["steps"][0]["recordedOffset"]
+        self.assertEqual(self.color(movie, turned - 0.3), "red")
+        self.assertEqual(self.color(movie, turned + 0.5), "blue")
+        self.assertEqual(self.color(movie, saved["steps"][-1]["recordedOffset"]), "blue")
+
+    def color(self, movie, seconds):
+        """What the movie shows in the middle of the terminal."""
+        pixel = subprocess.run(
+            ["ffmpeg", "-nostdin", "-v", "error", "-ss", f"{seconds:.3f}", "-i", str(movie),
+             "-frames:v", "1", "-vf", "crop=16:16:300:350,scale=1:1", "-f", "rawvideo",
+             "-pix_fmt", "rgb24", "-"], capture_output=True, check=True).stdout
+        return "red" if pixel[0] > pixel[2] else "blue"
+
+    def test_a_full_disk_costs_only_the_movie(self):
+        self.xterm()
+        self.write()
+        process = subprocess.Popen(
+            ["sh", "-c", 'ulimit -f 16; exec "$0" record "$1"', PROGRAM, str(self.demo)],
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        self.addCleanup(process.kill)
+        self.wait_capturing()
+        for _ in range(12):
+            xdotool("type", "--delay", 5, "much to show " * 4)
+            xdotool("key", "Return")
+        xdotool("key", "Escape")
+        out, err = process.communicate(timeout=60)
+        self.assertEqual((process.returncode, err), (0, ""))
+        self.assertRegex(out, r"^Recorded 24 steps( with screen recording)?\.$")
+        self.assertEqual(len(self.steps), 24)
+
     def test_a_layout_that_changes_in_a_word_is_followed(self):
         self.xterm()
         self.write()
@@ -203,7 +251,7 @@ class FromTheCommandLine(RecordingTest):
         subprocess.run(["setxkbmap", "de"], check=True)
         xdotool("key", y_of_us)
         xdotool("key", "Escape")
-        self.ended(process, 0, out="Recorded 1 step.\n")
+        self.ended(process, 0, out="Recorded 1 step with screen recording.\n")
         self.assertEqual([s["text"] for s in self.steps], ["yz"])
 
     def test_a_flood_of_events_is_recorded_whole(self):
@@ -239,7 +287,7 @@ class FromTheCommandLine(RecordingTest):
         wait_for(lambda: len(self.heard.buttons()) == 2, "the click")
         time.sleep(REST)
         process.send_signal(signal.SIGINT)
-        self.ended(process, 0, out="Recorded 2 steps.\n")
+        self.ended(process, 0, out="Recorded 2 steps with screen recording.\n")
         self.assertEqual([s["kind"] for s in self.steps], ["move", "click"])
 
     def test_a_smaller_canvas_is_told_and_kept(self):
@@ -248,7 +296,7 @@ class FromTheCommandLine(RecordingTest):
         xdotool("mousemove", 1900, 1000, "click", LEFT)
         time.sleep(REST)
         xdotool("key", "Escape")
-        self.ended(process, 0, out="Recorded 2 steps.\n",
+        self.ended(process, 0, out="Recorded 2 steps with screen recording.\n",
                    err="The screen (1920 × 1080) is larger than the canvas (1280 × 800): "
                        "what lies beyond is recorded at the canvas's edge.\n")
         self.assertEqual(self.steps[0]["point"], [1280, 800])
@@ -335,7 +383,7 @@ class FromTheEditor(RecordingTest):
         xdotool("mousemove", 1900, 1000, "click", LEFT)
         time.sleep(REST)
         xdotool("key", "Escape")
-        editor.wait_status("Recorded 2 steps.")
+        editor.wait_status("Recorded 2 steps with screen recording.")
         saved = editor.saved()
         self.assertEqual(saved["canvasSize"], list(SCREEN))
         self.assertEqual(saved["steps"][1]["point"], [1900, 1000])
