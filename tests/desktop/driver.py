@@ -322,7 +322,7 @@ class Editor:
         xdotool("key", "--delay", "20", *keys)
 
     def type(self, text):
-        xdotool("type", "--delay", "20", text)
+        xdotool("type", "--delay", "20", "--", text)
 
     def fill(self, field, text):
         """Replaces what a field holds and goes on to the next control."""
