@@ -4,6 +4,7 @@
 #include "app/FilePanel.h"
 #include "app/Question.h"
 #include "app/WindowPlaces.h"
+#include "base/FreeMemory.h"
 #include "editor/ContentView.h"
 #include "model/DocumentError.h"
 
@@ -124,9 +125,10 @@ void Documents::forget(QObject *window)
     if (!m_windows.isEmpty())
         return;
     if (m_isQuitting)
-        Q_EMIT quitReady();
-    else
-        Q_EMIT lastWindowClosed();
+        return Q_EMIT quitReady();
+    // Once what belonged to the window is gone too.
+    QMetaObject::invokeMethod(this, &returnFreeMemory, Qt::QueuedConnection);
+    Q_EMIT lastWindowClosed();
 }
 
 void Documents::quit()
