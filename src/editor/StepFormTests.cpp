@@ -205,13 +205,28 @@ TEST_F(StepFormTest, TheCentringOptionIsAnEdit)
     EXPECT_FALSE(form().findChild<QCheckBox *>()->isChecked());
 }
 
-TEST_F(StepFormTest, PickingOnScreenIsDisabledWithItsReasonUntilItIsPossible)
+TEST_F(StepFormTest, PickOnScreenPicksTheSelectedTarget)
 {
     openWith(StepKind::move);
     auto &pick = named<QPushButton>("Pick on screen");
-    const QString missing = view->pickLocation().missing();
-    EXPECT_EQ(pick.isEnabled(), missing.isEmpty());
-    EXPECT_TRUE(pick.toolTip().contains(missing));
+    ASSERT_TRUE(pick.isEnabled());
+    pick.click();
+    LocationPicker &picker = view->pickLocation().locationPicker();
+    ASSERT_TRUE(picker.isPicking());
+    desktop.screens().setPointer({12, 34});
+    while (picker.isPicking())
+        picker.tick();
+    EXPECT_EQ(step().point, QPointF(12, 34));
+    EXPECT_EQ(named<NumberField>("Target X").value(), 12);
+}
+
+TEST_F(StepFormTest, PickOnScreenIsDisabledWithItsReasonWhereItCannotBeDone)
+{
+    desktop.screens().setMissing("No display.");
+    openWith(StepKind::move);
+    auto &pick = named<QPushButton>("Pick on screen");
+    EXPECT_FALSE(pick.isEnabled());
+    EXPECT_TRUE(pick.toolTip().contains("No display."));
 }
 
 TEST_F(StepFormTest, WhatIsTypedBecomesAnEntryBeforeAnUndo)
