@@ -10,7 +10,8 @@
 namespace velvane {
 
 /// Decodes a movie's pictures on a thread of its own: always the one asked for last. Requests in
-/// between are dropped, also when they are already being worked on.
+/// between are dropped, also when they are already being worked on; but after several in a row one
+/// is carried to its end, so that a hand that moves on and on sees where it is.
 class MovieWorker {
 public:
     struct Result {
@@ -19,6 +20,8 @@ public:
         MoviePicture picture;
         /// The picture to show.
         QImage image;
+        /// Is it one that was carried to its end? A newer request may wait.
+        bool isCarried = false;
     };
     /// Called on the worker's thread, for each picture that could be decoded in time.
     using Decoded = std::function<void(const Result &result)>;
@@ -35,6 +38,8 @@ private:
     struct Request {
         Seconds time;
         int generation;
+        /// Whatever is asked for meanwhile.
+        bool isCarried = false;
     };
 
     void run();
@@ -47,6 +52,8 @@ private:
     std::condition_variable m_wake;
     /// The newest request that is not yet begun; under the mutex.
     std::optional<Request> m_request;
+    /// How many there were since the last picture; under the mutex.
+    int m_unanswered = 0;
     std::atomic<int> m_newest{0};
     std::atomic<bool> m_isEnding{false};
     std::thread m_thread;

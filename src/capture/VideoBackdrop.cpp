@@ -36,6 +36,7 @@ void VideoBackdrop::begin(std::unique_ptr<MovieReader> reader)
 {
     const Seconds duration = reader->duration();
     const QSizeF size = reader->size();
+    m_firstGeneration = m_generation + 1;
     m_worker = std::make_unique<MovieWorker>(std::move(reader), [this](const auto &result) {
         QMetaObject::invokeMethod(
             this, [this, result] { accept(result); }, Qt::QueuedConnection);
@@ -62,7 +63,7 @@ void VideoBackdrop::requestFrame(Seconds time)
 void VideoBackdrop::accept(const MovieWorker::Result &result)
 {
     if (result.generation != m_generation)
-        return;
+        return showMeanwhile(result);
     const qint64 key = FrameCache::key(result.time);
     m_cache.store(key, result.picture);
     if (m_size.isEmpty())
@@ -70,6 +71,16 @@ void VideoBackdrop::accept(const MovieWorker::Result &result)
     // The cache may have answered a newer request.
     if (key == FrameCache::key(m_currentTime))
         show(key, result.image);
+}
+
+// While request follows request, what was asked for a moment ago tells more than what was shown
+// before.
+void VideoBackdrop::showMeanwhile(const MovieWorker::Result &result)
+{
+    const bool isOfThisMovie = result.generation >= m_firstGeneration;
+    const bool isAnswered = m_shownKey == FrameCache::key(m_currentTime);
+    if (result.isCarried && isOfThisMovie && m_worker && !isAnswered)
+        show(FrameCache::key(result.time), result.image);
 }
 
 void VideoBackdrop::show(qint64 key, const QImage &frame)

@@ -12,7 +12,9 @@ namespace velvane {
 /// own.
 ///
 /// Every request that the cache cannot answer and every reset() begins a new generation; a picture
-/// of an older one is neither kept nor shown. What cannot be decoded leaves the last picture.
+/// of an older one is neither kept nor shown, but for one now and then while requests come faster
+/// than pictures: it is shown until a newer one is there. What cannot be decoded leaves the last
+/// picture.
 class VideoBackdrop : public QObject {
     Q_OBJECT
 public:
@@ -52,6 +54,7 @@ Q_SIGNALS:
 private:
     void begin(std::unique_ptr<MovieReader> reader);
     void accept(const MovieWorker::Result &result);
+    void showMeanwhile(const MovieWorker::Result &result);
     void show(qint64 key, const QImage &frame);
     void setFrame(const QImage &frame);
     void setSize(QSizeF size);
@@ -67,6 +70,8 @@ private:
     /// Of frame(), while there is one.
     std::optional<qint64> m_shownKey;
     int m_generation = 0;
+    /// The first of the movie that is loaded.
+    int m_firstGeneration = 0;
     /// Raised when the movie being opened is no longer wanted; shared with who opens it.
     std::shared_ptr<std::atomic<bool>> m_isUnwanted;
     /// The last member: its thread calls the others until it ends.

@@ -104,6 +104,40 @@ TEST_F(VideoBackdropTest, OfTwoQuickRequestsOnlyTheSecondIsShownAndKept)
     EXPECT_EQ(numberIn(video.frame()), 20);
 }
 
+TEST_F(VideoBackdropTest, AHandThatMovesOnAndOnSeesPictures)
+{
+    load(movie());
+    // Faster than any picture can be decoded, without a rest.
+    const auto patience = std::chrono::steady_clock::now() + 60s;
+    int requests = 0;
+    while (shown.isEmpty()) {
+        ASSERT_LT(std::chrono::steady_clock::now(), patience) << "waited 60 s for a picture";
+        video.requestFrame(Seconds(0.05 + 0.02 * (requests++ % 90)));
+        if (requests % 10 == 0)
+            QCoreApplication::processEvents();
+    }
+    EXPECT_GT(requests, 5);
+    // What was shown meanwhile was not kept; the last one asked for comes in its turn.
+    video.requestFrame(Seconds(1.99));
+    until([this] { return numberIn(video.frame()) == 99; });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(numberIn(video.frame()), 99);
+}
+
+TEST_F(VideoBackdropTest, WhatWasShownMeanwhileEndsWithTheMovie)
+{
+    load(movie());
+    for (int i = 0; i < 20; ++i)
+        video.requestFrame(Seconds(0.05 + 0.02 * i));
+    video.reset();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(video.frame().isNull());
+    runToEnd(video.load(movie(10)));
+    shown.clear();
+    until([this] { return !video.frame().isNull(); });
+    EXPECT_EQ(shown, QList<int>({0}));
+}
+
 TEST_F(VideoBackdropTest, AKeptPictureIsShownAtOnce)
 {
     load(movie());
