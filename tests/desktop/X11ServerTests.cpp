@@ -111,6 +111,32 @@ TEST(X11Server, TheMainDisplayIsTheOneOfTheActiveWindow)
         << "a window that is gone";
 }
 
+TEST(X11Server, EventsThatNobodyReadsDoNotPileUp)
+{
+    const TestServer server;
+    const X11Connection user(server.display());
+    const X11Connection shared(server.display());
+    X11Screens screens(shared);
+    // Every connection is told.
+    constexpr xcb_keysym_t letter = 'x';
+    for (int i = 0; i < 100; ++i)
+        xcb_change_keyboard_mapping(user.get(), 1, 200, 1, &letter);
+    xcb_flush(user.get());
+    const auto next = [&] {
+        shared.hasExtension("RANDR"); // reads what has come
+        return XReply<xcb_generic_event_t>(xcb_poll_for_queued_event(shared.get()));
+    };
+    XReply<xcb_generic_event_t> event;
+    ASSERT_TRUE(eventually([&] { return bool(event = next()); }));
+    EXPECT_EQ(event->response_type & 0x7F, XCB_MAPPING_NOTIFY);
+    user.hasExtension("RANDR"); // all are under way
+    EXPECT_TRUE(eventually([&] {
+        screens.pointer();
+        return !next();
+    }));
+    EXPECT_FALSE(next());
+}
+
 namespace {
 
 // Asks for all that takes a window manager.

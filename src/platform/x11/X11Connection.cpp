@@ -60,4 +60,10 @@ bool X11Connection::hasExtension(const QByteArray &name) const
     return reply && reply->present;
 }
 
+void X11Connection::discardEvents() const
+{
+    while (XReply<xcb_generic_event_t>(xcb_poll_for_event(m_connection))) {
+    }
+}
+
 } // namespace velvane

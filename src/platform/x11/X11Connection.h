@@ -46,6 +46,10 @@ public:
 
     bool hasExtension(const QByteArray &name) const;
 
+    /// Throws away the events that have come. Whoever reads none calls this now and then: a change
+    /// of the keyboard's map is told to every connection.
+    void discardEvents() const;
+
 private:
     xcb_connection_t *m_connection = nullptr;
     xcb_window_t m_root = XCB_NONE;

@@ -1,6 +1,6 @@
 #include "platform/x11/X11InputSynthesizer.h"
 
-#include "base/KeyPosition.h"
+#include "platform/x11/X11KeyCode.h"
 #include "platform/x11/X11Typing.h"
 
 #include <QCoreApplication>
@@ -8,9 +8,6 @@
 namespace velvane {
 
 namespace {
-
-// X11's key codes are the kernel's, this much higher.
-constexpr quint32 firstKeyCode = 8;
 
 QString tr(const char *text)
 {
@@ -76,13 +73,13 @@ void X11InputSynthesizer::release(MouseButton button, QPointF at)
 
 void X11InputSynthesizer::pressKey(quint16 keyCode, quint64 modifiers)
 {
-    const std::optional<quint32> evdev = KeyPosition::evdev(keyCode);
-    X11Poster *const to = evdev ? poster() : nullptr;
+    const std::optional<xcb_keycode_t> key = X11KeyCode::ofStored(keyCode);
+    X11Poster *const to = key ? poster() : nullptr;
     const auto layout = to ? X11KeyMap::read(to->connection()) : std::nullopt;
     if (!layout)
         return;
     KeyChord chord = layout->modifierKeys(modifiers);
-    chord.push_back(static_cast<xcb_keycode_t>(*evdev + firstKeyCode));
+    chord.push_back(*key);
     to->tap(chord);
 }
 

@@ -95,19 +95,25 @@ QString X11Screens::missing() const
     return QCoreApplication::translate("X11Screens", "There is no connection to an X server.");
 }
 
+std::vector<X11Monitor> X11Screens::freshMonitors() const
+{
+    m_connection.discardEvents();
+    return monitorsOf(m_connection, m_hasRandr);
+}
+
 QPoint X11Screens::origin() const
 {
-    return originOf(monitorsOf(m_connection, m_hasRandr));
+    return originOf(freshMonitors());
 }
 
 std::vector<Display> X11Screens::displays()
 {
-    return displaysOf(monitorsOf(m_connection, m_hasRandr), workArea(m_connection));
+    return displaysOf(freshMonitors(), workArea(m_connection));
 }
 
 std::optional<Display> X11Screens::mainDisplay()
 {
-    const std::vector<X11Monitor> monitors = monitorsOf(m_connection, m_hasRandr);
+    const std::vector<X11Monitor> monitors = freshMonitors();
     const std::vector<Display> all = displaysOf(monitors, workArea(m_connection));
     if (all.empty())
         return {};
@@ -127,7 +133,7 @@ std::optional<Display> X11Screens::mainDisplay()
 std::optional<QPointF> X11Screens::pointer()
 {
     const auto asked = xcb_query_pointer(m_connection.get(), m_connection.root());
-    const std::vector<X11Monitor> monitors = monitorsOf(m_connection, m_hasRandr);
+    const std::vector<X11Monitor> monitors = freshMonitors();
     const XReply<xcb_query_pointer_reply_t> reply(
         xcb_query_pointer_reply(m_connection.get(), asked, nullptr));
     if (!reply || monitors.empty())

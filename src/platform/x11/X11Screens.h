@@ -5,7 +5,17 @@
 
 namespace velvane {
 
+/// A display in root-window pixels, as the server tells it.
+struct X11Monitor {
+    QString name;
+    QRect frame;
+    bool primary = false;
+};
+
 /// The displays as RandR knows them; one display as large as the root window without RandR.
+///
+/// Reads no events of the connection and throws them away, for all who share it: whatever uses the
+/// desktop asks for its displays now and then.
 class X11Screens final : public Screens {
 public:
     explicit X11Screens(const X11Connection &connection);
@@ -19,15 +29,10 @@ public:
     QPoint origin() const;
 
 private:
+    std::vector<X11Monitor> freshMonitors() const;
+
     const X11Connection &m_connection;
     const bool m_hasRandr;
-};
-
-/// A display in root-window pixels, as the server tells it.
-struct X11Monitor {
-    QString name;
-    QRect frame;
-    bool primary = false;
 };
 
 /// The monitors as RandR knows them, or one as large as the root window.
