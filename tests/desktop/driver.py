@@ -191,7 +191,7 @@ class Editor:
     @property
     def _foot(self):
         x, y, width, height = self.window.box
-        return y + height - 30
+        return y + height - round(30 * Node.scale)
 
     def wait_status(self, text):
         wait_for(lambda: text in self.status, f"the status {text!r}")
