@@ -1,5 +1,6 @@
 #include "media/MovieFile.h"
 
+#include "base/WholeFile.h"
 #include "media/MovieError.h"
 
 #include <QFile>
@@ -31,6 +32,10 @@ MovieFile::MovieFile(const QString &path, Existing existing)
     const QByteArray name = QFile::encodeName(path);
     if (existing == Existing::replace)
         removeExisting(name);
+    // One that cannot be removed; the system itself follows none that comes now.
+    if (existing == Existing::replace && WholeFile::isPlantedLink(path))
+        throw MovieError(MovieError::Cause::file,
+                         QStringLiteral("another user's link stands in its place"));
     // Not blocking: a named pipe would otherwise wait for its reader.
     constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK;
     m_file =

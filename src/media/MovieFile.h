@@ -14,8 +14,10 @@ class MovieFile {
 public:
     /// What becomes of a file that has the name.
     enum class Existing {
-        replace, ///< a file or link is removed first, and if it cannot be, it is written over
-        refuse,  ///< it stays, and that is the error
+        /// A file or link is removed first, and if it cannot be, it is written over, unless it is a
+        /// link that another user planted in a shared folder.
+        replace,
+        refuse, ///< it stays, and that is the error
     };
 
     /// Creates the file. Throws MovieError with the system's reason.

@@ -1,5 +1,6 @@
 #include "model/DemoDocument.h"
 
+#include "base/WholeFile.h"
 #include "model/DocumentError.h"
 #include "model/ProjectFile.h"
 #include "model/propertylist/BinaryReader.h"
@@ -8,7 +9,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace velvane {
 
@@ -65,18 +65,6 @@ QByteArray bytesOf(const QString &path)
     return bytes;
 }
 
-bool writeAll(QIODevice &device, QByteArrayView bytes)
-{
-    // A disk that fills up takes a part first, and only the next call says what is wrong.
-    while (!bytes.isEmpty()) {
-        const qint64 taken = device.write(bytes.data(), bytes.size());
-        if (taken <= 0)
-            return false;
-        bytes = bytes.sliced(taken);
-    }
-    return true;
-}
-
 } // namespace
 
 DemoDocument::DemoDocument() : m_project(std::make_unique<Project>()) {}
@@ -118,13 +106,8 @@ std::optional<QString> DemoDocument::write(const ProjectFile &file, const QStrin
         if (auto found = obstacle(existing))
             return found;
     }
-    // It follows symbolic links, keeps the mode, and puts the new file in place in one step.
-    QSaveFile saved(path);
-    saved.setDirectWriteFallback(false);
-    // Without a buffer of its own: it would not notice that a full disk took only a part of that.
-    if (!saved.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        || !writeAll(saved, contents(file)) || !saved.commit())
-        return QStringLiteral("cannot be written: %1").arg(saved.errorString());
+    if (const auto failure = WholeFile::write(path, contents(file)))
+        return QStringLiteral("cannot be written: %1").arg(*failure);
     return {};
 }
 

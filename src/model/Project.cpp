@@ -159,13 +159,7 @@ Snapshot Project::snapshot() const
 
 ProjectFile Project::fileSnapshot() const
 {
-    return {.version = 1,
-            .steps = m_state.steps,
-            .startPoint = m_state.startPoint,
-            .canvasSize = m_state.canvasSize,
-            .fps = m_state.fps,
-            .background = Picture::encoded(m_state.background),
-            .recordingBookmark = m_state.recordingBookmark};
+    return ProjectFile::of(m_state);
 }
 
 void Project::registerUndo(const DocState &toRestore, const QString &name)

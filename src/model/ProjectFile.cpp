@@ -1,7 +1,9 @@
 #include "model/ProjectFile.h"
 
+#include "model/DocState.h"
 #include "model/DocumentError.h"
 #include "model/Fields.h"
+#include "model/Picture.h"
 #include "model/propertylist/PropertyList.h"
 
 namespace velvane {
@@ -78,6 +80,17 @@ PropertyList written(const Step &step)
 }
 
 } // namespace
+
+ProjectFile ProjectFile::of(const DocState &state)
+{
+    return {.version = 1,
+            .steps = state.steps,
+            .startPoint = state.startPoint,
+            .canvasSize = state.canvasSize,
+            .fps = state.fps,
+            .background = Picture::encoded(state.background),
+            .recordingBookmark = state.recordingBookmark};
+}
 
 ProjectFile ProjectFile::from(const PropertyList &root)
 {

@@ -10,6 +10,7 @@
 namespace velvane {
 
 class PropertyList;
+struct DocState;
 
 /// The root record of a demo file.
 struct ProjectFile {
@@ -23,6 +24,10 @@ struct ProjectFile {
     std::optional<QByteArray> background;
     /// Finds the movie again that was recorded with the steps; opaque here.
     std::optional<QByteArray> recordingBookmark;
+
+    /// The record of a demo. The background is encoded as PNG, and left out when that fails, which
+    /// takes its time; any thread.
+    static ProjectFile of(const DocState &state);
 
     /// The record of a property list. Unknown keys are ignored; throws DocumentError, naming the
     /// step and the key, when a required key is missing or a value is of the wrong type or range.
