@@ -107,6 +107,7 @@ void RecentDemos::add(const QString &path, const Snapshot &demo)
     while (demos.size() > most)
         QFile::remove(pictureFile(demos.takeLast().path));
     store(demos);
+    Q_EMIT added(absolute);
     paint(absolute, demo);
 }
 

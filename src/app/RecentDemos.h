@@ -45,6 +45,8 @@ public:
     void setPictureFolder(const QString &folder) { m_folder = folder; }
 
 Q_SIGNALS:
+    /// A demo was opened or saved.
+    void added(const QString &path);
     void changed();
 
 private:

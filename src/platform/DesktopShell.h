@@ -26,6 +26,10 @@ public:
 
     /// Opens an address with whatever handles it. False when nothing does.
     virtual bool open(const QUrl &address) = 0;
+
+    /// Puts a file of this MIME type into the desktop's own list of recently used files, a little
+    /// later.
+    virtual void noteRecent(const QString &file, const QString &type) = 0;
 };
 
 } // namespace velvane

@@ -42,4 +42,10 @@ bool SimulatedShell::open(const QUrl &address)
     return works();
 }
 
+void SimulatedShell::noteRecent(const QString &file, const QString &type)
+{
+    if (works())
+        m_log.add("note recent " + file + " as " + type);
+}
+
 } // namespace velvane

@@ -19,6 +19,7 @@ public:
     void activate() override;
     bool reveal(const QString &file) override;
     bool open(const QUrl &address) override;
+    void noteRecent(const QString &file, const QString &type) override;
 
 private:
     EventLog &m_log;

@@ -3,6 +3,7 @@
 #include "base/Background.h"
 #include "platform/freedesktop/Addresses.h"
 #include "platform/freedesktop/FileManager.h"
+#include "platform/freedesktop/RecentFiles.h"
 
 #include <QGuiApplication>
 #include <QPointer>
@@ -180,6 +181,11 @@ bool X11Shell::open(const QUrl &address)
         return Addresses::open(address);
     m_permissions.openSettings(*page);
     return true;
+}
+
+void X11Shell::noteRecent(const QString &file, const QString &type)
+{
+    inBackground([file, type] { RecentFiles::add(file, type, RecentFiles::standardList()); });
 }
 
 std::optional<Permission> X11Shell::settingsPage(const QUrl &address)

@@ -28,6 +28,7 @@ public:
     void activate() override;
     bool reveal(const QString &file) override;
     bool open(const QUrl &address) override;
+    void noteRecent(const QString &file, const QString &type) override;
 
     /// The permission whose settings page an address names; nothing for any other address.
     static std::optional<Permission> settingsPage(const QUrl &address);

@@ -1,0 +1,86 @@
+#include "platform/freedesktop/RecentFiles.h"
+
+#include "base/WholeFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <glib.h>
+
+#include <memory>
+
+namespace velvane::RecentFiles {
+
+namespace {
+
+constexpr auto application = "Velvane";
+constexpr auto command = "velvane %u";
+// Milliseconds that others may take to write the list.
+constexpr int patience = 2000;
+// Bytes; other programs keep it far shorter.
+constexpr qint64 greatestSize = 64 << 20;
+
+using Bookmarks = std::unique_ptr<GBookmarkFile, decltype(&g_bookmark_file_free)>;
+
+/// An empty list when there is none yet, null when there is something else.
+Bookmarks read(const QString &list)
+{
+    Bookmarks bookmarks(g_bookmark_file_new(), g_bookmark_file_free);
+    QFile file(list);
+    if (!file.exists())
+        return bookmarks;
+    if (!file.open(QIODevice::ReadOnly) || file.size() > greatestSize)
+        return {nullptr, g_bookmark_file_free};
+    const QByteArray bytes = file.readAll();
+    if (!g_bookmark_file_load_from_data(bookmarks.get(), bytes.constData(), gsize(bytes.size()),
+                                        nullptr))
+        bookmarks.reset();
+    return bookmarks;
+}
+
+QByteArray contents(GBookmarkFile *bookmarks)
+{
+    gsize size = 0;
+    gchar *data = g_bookmark_file_to_data(bookmarks, &size, nullptr);
+    const QByteArray bytes(data, qsizetype(size));
+    g_free(data);
+    return bytes;
+}
+
+} // namespace
+
+QString standardList()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+           + QStringLiteral("/recently-used.xbel");
+}
+
+bool add(const QString &file, const QString &type, const QString &list)
+{
+    QDir().mkpath(QFileInfo(list).absolutePath());
+    QLockFile lock(list + QStringLiteral(".lock"));
+    if (!lock.tryLock(patience))
+        return false;
+    const bool isNew = !QFile::exists(list);
+    const Bookmarks bookmarks = read(list);
+    if (!bookmarks)
+        return false;
+    const QByteArray uri = QUrl::fromLocalFile(file).toEncoded();
+    g_bookmark_file_set_mime_type(bookmarks.get(), uri.constData(), type.toUtf8().constData());
+    g_bookmark_file_add_application(bookmarks.get(), uri.constData(), application, command);
+    GDateTime *now = g_date_time_new_now_utc();
+    g_bookmark_file_set_visited_date_time(bookmarks.get(), uri.constData(), now);
+    g_date_time_unref(now);
+    const QByteArray bytes = contents(bookmarks.get());
+    if (bytes.isEmpty() || WholeFile::write(list, bytes))
+        return false;
+    // Which files somebody uses is nobody else's business.
+    if (isNew)
+        QFile::setPermissions(list, QFile::ReadOwner | QFile::WriteOwner);
+    return true;
+}
+
+} // namespace velvane::RecentFiles
