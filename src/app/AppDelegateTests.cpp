@@ -1,11 +1,13 @@
 #include "app/AppDelegate.h"
 
+#include "app/Autosave.h"
 #include "app/DocumentsFixture.h"
 #include "app/RecentDemoDelegate.h"
 #include "app/StartWindow.h"
 #include "editor/Theme.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QListView>
 #include <QToolButton>
@@ -50,7 +52,8 @@ struct AppDelegateTest : DocumentsFixture {
         settle();
     }
 
-    AppDelegate delegate{documents};
+    Autosave autosave{documents, file("kept")};
+    AppDelegate delegate{documents, autosave};
     int ends = 0;
 };
 
@@ -114,8 +117,65 @@ TEST_F(AppDelegateTest, TheSessionMayEndWhileNothingIsLost)
     EXPECT_EQ(ends, 0);
 }
 
-TEST_F(AppDelegateTest, TheSessionWaitsForTheAnswersAboutModifiedDemos)
+TEST_F(AppDelegateTest, TheSessionMayEndWhenModifiedDemosAreKept)
 {
+    EditorWindow *window = documents.newDemo();
+    edit(window);
+    EXPECT_TRUE(delegate.sessionMayEnd());
+    EXPECT_FALSE(question(window));
+    EXPECT_TRUE(autosave.hasEnded());
+}
+
+TEST_F(AppDelegateTest, TheProgramEndsUnaskedWithItsDemosKept)
+{
+    edit(documents.newDemo());
+    documents.open(demo("a.velvane"), nullptr);
+    delegate.end();
+    settle();
+    EXPECT_TRUE(documents.windows().isEmpty());
+    EXPECT_EQ(ends, 1);
+    EXPECT_FALSE(start().isVisible());
+}
+
+TEST_F(AppDelegateTest, TheSessionManagersLastWordEndsTheProgramUnasked)
+{
+    edit(documents.newDemo());
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    settle();
+    EXPECT_TRUE(autosave.hasEnded());
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(AppDelegateTest, ComingForwardWithoutAWindowMakesADemo)
+{
+    delegate.comeForward();
+    EXPECT_EQ(documents.windows().size(), 1);
+    delegate.comeForward();
+    EXPECT_EQ(documents.windows().size(), 1);
+}
+
+TEST_F(AppDelegateTest, DemosOfOtherProgramsOpenOnceEach)
+{
+    delegate.open({demo("a.velvane"), demo("b.velvane")});
+    delegate.open({file("a.velvane")});
+    EXPECT_EQ(documents.windows().size(), 2);
+}
+
+TEST_F(AppDelegateTest, WhatAnotherProgramCannotOpenLeavesTheStartWindow)
+{
+    delegate.open({file("missing.velvane")});
+    EXPECT_TRUE(documents.windows().isEmpty());
+    EXPECT_TRUE(start().isVisible());
+    for (QWidget *box : QApplication::topLevelWidgets())
+        if (qobject_cast<QMessageBox *>(box))
+            box->close();
+    settle();
+}
+
+TEST_F(AppDelegateTest, TheSessionWaitsForTheAnswersAboutDemosThatCannotBeKept)
+{
+    QFile(file("kept")).open(QIODevice::WriteOnly);
     EditorWindow *window = documents.newDemo();
     edit(window);
     EXPECT_FALSE(delegate.sessionMayEnd());

@@ -13,6 +13,11 @@ DocumentFile::DocumentFile(const QString &path)
     , m_stamp(FileStamp::of(m_path))
 {}
 
+DocumentFile::DocumentFile(const QString &path, const std::optional<FileStamp> &stamp)
+    : m_path(path)
+    , m_stamp(stamp)
+{}
+
 DocumentFile::Fate DocumentFile::fate() const
 {
     const auto now = FileStamp::of(m_path);

@@ -28,9 +28,13 @@ public:
     DocumentFile() = default;
     /// Take it before reading the file, so that a change while reading is noticed.
     explicit DocumentFile(const QString &path);
+    /// As an earlier process last read or wrote it: nothing when it had no such file. An empty path
+    /// is no file.
+    DocumentFile(const QString &path, const std::optional<FileStamp> &stamp);
 
     bool isEmpty() const { return m_path.isEmpty(); }
     const QString &path() const { return m_path; }
+    const std::optional<FileStamp> &stamp() const { return m_stamp; }
     Fate fate() const;
 
     /// Writes the demo, whole or not at all, and only when others have not changed the file since:

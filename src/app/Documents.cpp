@@ -17,7 +17,11 @@ Documents::Documents(Desktop &desktop, QSettings &settings)
     , m_settings(settings)
     , m_runSettings(settings)
     , m_recents(settings)
-{}
+{
+    connect(&m_recents, &RecentDemos::added, this, [this](const QString &path) {
+        m_desktop.shell().noteRecent(path, QStringLiteral("application/vnd.orvikel.velvane"));
+    });
+}
 
 Documents::~Documents()
 {
@@ -73,6 +77,15 @@ void Documents::openPanel(QWidget *asking)
     });
 }
 
+void Documents::bringUpLast()
+{
+    if (m_windows.isEmpty())
+        return;
+    const auto active = std::find_if(m_windows.begin(), m_windows.end(),
+                                     std::mem_fn(&EditorWindow::isActiveWindow));
+    bringUp(active == m_windows.end() ? m_windows.constLast() : *active);
+}
+
 EditorWindow *Documents::bringUp(EditorWindow *window)
 {
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
@@ -96,6 +109,14 @@ EditorWindow *Documents::add(std::unique_ptr<DemoDocument> document, const Docum
     connect(window, &QObject::destroyed, this, &Documents::forget);
     window->show();
     Q_EMIT windowsChanged();
+    return window;
+}
+
+EditorWindow *Documents::addUnsaved(std::unique_ptr<DemoDocument> document,
+                                    const DocumentFile &file)
+{
+    EditorWindow *window = add(std::move(document), file);
+    window->setUnsaved();
     return window;
 }
 
@@ -144,6 +165,13 @@ void Documents::quit()
                 open->keepOpen();
         });
     }
+    closeAll();
+}
+
+void Documents::quitKept()
+{
+    for (EditorWindow *window : qAsConst(m_windows))
+        window->letGo();
     closeAll();
 }
 

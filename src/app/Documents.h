@@ -35,11 +35,15 @@ public:
     /// The window that has this file open, whatever its path is written like, or null.
     EditorWindow *windowFor(const QString &path) const;
 
+    /// Brings the window that was used last to the front, if there is one.
+    void bringUpLast();
     /// Opens a window on a new demo.
     EditorWindow *newDemo();
     /// Opens a window on a demo that was read from this file, or raises the one that has it
     /// already.
     EditorWindow *add(std::unique_ptr<DemoDocument> document, const DocumentFile &file);
+    /// The same for a demo that holds what its file, if it has one, does not.
+    EditorWindow *addUnsaved(std::unique_ptr<DemoDocument> document, const DocumentFile &file);
     /// Opens a demo, or raises the window that has it already. A file that is no demo is refused in
     /// one sentence over `asking`, which may be null; the result is null then.
     EditorWindow *open(const QString &path, QWidget *asking);
@@ -51,6 +55,9 @@ public:
     /// Asks about every modified demo in turn; when none was cancelled closes all windows and emits
     /// quitReady() after the last.
     void quit();
+    /// Closes all windows without a question, since what they hold is kept elsewhere, and emits
+    /// quitReady() after the last.
+    void quitKept();
     /// Ends quit() because of a window that has to ask again; true when it was under way. Without
     /// another quit() the program goes on, whichever windows close.
     bool interruptQuit() { return std::exchange(m_isQuitting, false); }

@@ -45,6 +45,16 @@ TEST_F(DocumentsTest, TheNumberOfAClosedNewDemoIsUsedAgain)
     EXPECT_EQ(documents.newDemo()->name(), "Untitled");
 }
 
+TEST_F(DocumentsTest, TheDesktopHearsOfOpenedAndSavedDemos)
+{
+    EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
+    const QString note = "note recent " + file("a.velvane") + " as application/vnd.orvikel.velvane";
+    EXPECT_EQ(desktop.log().filter(note).size(), 1);
+    edit(window);
+    window->save();
+    EXPECT_EQ(desktop.log().filter(note).size(), 2);
+}
+
 TEST_F(DocumentsTest, AFileIsOpenInOneWindowOnly)
 {
     EditorWindow *window = documents.open(demo("a.velvane"), nullptr);

@@ -75,6 +75,19 @@ bool EditorWindow::isModified() const
     return !m_saved || !(m_document->project().docState() == *m_saved);
 }
 
+void EditorWindow::setUnsaved()
+{
+    m_saved.reset();
+    updateTitle();
+}
+
+void EditorWindow::replace(const DocState &state, const QString &name)
+{
+    m_content->fieldEditing().commitOpenGesture();
+    Project &project = m_document->project();
+    project.edit(name, [&] { project.applyDocState(state); });
+}
+
 void EditorWindow::updateTitle()
 {
     setWindowTitle(name() + QStringLiteral("[*]"));
@@ -187,15 +200,13 @@ void EditorWindow::onFileChanged()
     case DocumentFile::Fate::unchanged:
         return;
     case DocumentFile::Fate::gone:
-        m_saved.reset();
         m_content->statusLine().setMessage(
             tr("“%1” was moved or deleted; saving writes it again.").arg(name()));
-        return updateTitle();
+        return setUnsaved();
     case DocumentFile::Fate::changed:
         break;
     }
-    m_saved.reset();
-    updateTitle();
+    setUnsaved();
     const Question question{tr("“%1” was changed by another program.").arg(name()),
                             tr("Reloading it can be undone. If you keep your version, saving asks "
                                "before it replaces the other."),
@@ -208,14 +219,12 @@ void EditorWindow::onFileChanged()
 
 void EditorWindow::reload()
 {
-    m_content->fieldEditing().commitOpenGesture();
     const DocumentFile file(m_file.path());
     try {
         const auto read = DemoDocument::read(file.path());
-        Project &project = m_document->project();
-        project.edit(tr("Reload"), [&] { project.applyDocState(read->project().docState()); });
+        replace(read->project().docState(), tr("Reload"));
         m_file = file;
-        m_saved = project.docState();
+        m_saved = m_document->project().docState();
         m_watch.setPath(m_file.path());
         updateTitle();
     } catch (const DocumentError &error) {

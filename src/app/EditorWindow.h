@@ -41,6 +41,10 @@ public:
     void setUntitledNumber(int number);
     int untitledNumber() const { return m_untitledNumber; }
     bool isModified() const;
+    /// Counts the demo as modified, since it came from elsewhere than its file.
+    void setUnsaved();
+    /// Puts another state in place of the demo's, as one edit of this name.
+    void replace(const DocState &state, const QString &name);
 
     /// Saves to the demo's file, or asks for one first; asks too when the file is not as it was
     /// last read or written.
@@ -52,6 +56,8 @@ public:
     bool mayClose() const { return m_mayClose || !isModified(); }
     /// Takes back the agreement that confirmClose() got.
     void keepOpen() { m_mayClose = false; }
+    /// Lets it close without a question: what it holds is kept elsewhere.
+    void letGo() { m_mayClose = true; }
 
 public Q_SLOTS:
     void newDemo();

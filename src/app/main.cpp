@@ -27,7 +27,10 @@ int main(int argc, char **argv)
     if (const auto status = commandLine.parse(argc, argv))
         return *status;
     if (!commandLine.hasCommand())
-        return velvane::VelvaneApp::run(argc, argv, commandLine.demos());
+        return velvane::VelvaneApp::run(argc, argv,
+                                        {.demos = commandLine.demos(),
+                                         .newInstance = commandLine.newInstance(),
+                                         .service = commandLine.service()});
     if (commandLine.showsPanel() && velvane::VelvaneApp::hasDisplay()) {
         const auto application = velvane::VelvaneApp::makeApplication(argc, argv);
         return commandLine.run();

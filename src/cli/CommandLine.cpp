@@ -37,6 +37,10 @@ CommandLine::CommandLine(Console console)
     m_app->get_formatter()->label("REQUIRED", "");
     m_app->get_formatter()->label("TEXT", "");
     m_app->add_option("DEMO", m_demos, "Demos to open in the editor");
+    m_app->add_flag("--new-instance", m_newInstance,
+                    "Open them in a process of its own, even when Velvane runs already");
+    // For the service file alone: an empty group hides it.
+    m_app->add_flag("--service", m_service)->group("");
     addNew(*m_app, m_console, m_action);
     addInspect(*m_app, m_console, m_action);
     addState(*m_app, m_console, m_action);

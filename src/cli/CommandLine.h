@@ -22,6 +22,10 @@ public:
     /// Does the subcommand show something on the desktop? It then needs a QApplication.
     bool showsPanel() const;
     const std::vector<std::string> &demos() const { return m_demos; }
+    /// Is a process of its own wanted, even when the program runs already?
+    bool newInstance() const { return m_newInstance; }
+    /// Has the session bus started the program, to call it at once?
+    bool service() const { return m_service; }
 
     /// Runs the subcommand and returns its exit status; needs the application object. What goes
     /// wrong is one line on err and status 1.
@@ -32,6 +36,8 @@ private:
     std::unique_ptr<CLI::App> m_app;
     Action m_action;
     std::vector<std::string> m_demos;
+    bool m_newInstance = false;
+    bool m_service = false;
 };
 
 } // namespace velvane::cli

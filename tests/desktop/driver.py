@@ -20,8 +20,13 @@ def xdotool(*arguments):
 class Editor:
     """One running editor with one demo, in folders of its own."""
 
-    def __init__(self, program, demo, scheme="dark", **environment):
-        """`scheme` is dark or light, or empty to leave it to the desktop. `demo` may be None."""
+    def __init__(self, program, demo, scheme="dark", window=True, single=False, arguments=(),
+                 **environment):
+        """`scheme` is dark or light, or empty to leave it to the desktop. `demo` may be None.
+
+        Waits for its window unless `window` is False. Several run on one session bus, each for
+        itself; one that is `single` is that in which later ones open their demos.
+        """
         self.program = str(program)
         self.demo = Path(demo) if demo else None
         self.folder = tempfile.TemporaryDirectory(prefix="velvane-editor.")
@@ -38,13 +43,15 @@ class Editor:
             **environment,
         }
         Node.scale = float(environment.get("QT_SCALE_FACTOR", 1))
-        command = [self.program, str(demo)] if demo else [self.program]
+        command = [self.program, *([] if single else ["--new-instance"]), *arguments]
+        command += [str(demo)] if demo else []
         self.process = subprocess.Popen(command, env=environment)
         self.focus = Focus()
         try:
             self.root = application(self.process.pid)
-            self.window = wait_for(self._first_window, "the editor's window")
-            wait_for(self._is_active, "the window to become active")
+            if window:
+                self.window = wait_for(self._first_window, "the editor's window")
+                wait_for(self._is_active, "the window to become active")
         except BaseException:
             self.close()
             raise
