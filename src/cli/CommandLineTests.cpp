@@ -170,6 +170,32 @@ TEST_F(CommandLineTest, FrameWritesWhatTheRendererDraws)
               expected.convertToFormat(QImage::Format_RGB32));
 }
 
+TEST_F(CommandLineTest, FrameFitsAPictureIntoASize)
+{
+    const auto frameOfSize = [this](const char *size) {
+        const Result result =
+            runWith({"frame", sample(), "--at", "0", "--size", size, "--output", path("a.png")});
+        EXPECT_EQ(result.status, 0) << result.err;
+        return QImage(folder.filePath("a.png")).size();
+    };
+    EXPECT_EQ(frameOfSize("32"), QSize(32, 24));
+    EXPECT_EQ(frameOfSize("1"), QSize(1, 1));
+    // A larger one would show no more.
+    EXPECT_EQ(frameOfSize("64"), QSize(64, 48));
+    EXPECT_EQ(frameOfSize("512"), QSize(64, 48));
+}
+
+TEST_F(CommandLineTest, FrameRefusesASizeThatIsNone)
+{
+    for (const char *size : {"0", "-1", "big", "1e9"}) {
+        const Result result =
+            runWith({"frame", sample(), "--at", "0", "--size", size, "--output", path("a.png")});
+        EXPECT_EQ(result.status, 2) << size;
+        expectOneLine(result.err);
+        EXPECT_FALSE(exists("a.png"));
+    }
+}
+
 TEST_F(CommandLineTest, ExportSaysWhereTheMovieIs)
 {
     const Result result = runWith({"export", sample(), path("a.mp4")});

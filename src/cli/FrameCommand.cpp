@@ -17,7 +17,11 @@ struct Options {
     std::string demo;
     double at = 0;
     std::string output;
+    /// Pixels that neither side may exceed; 0 for the canvas's own size.
+    int size = 0;
 };
+
+constexpr int largestSize = 16384;
 
 // As movies show it: what the backdrop leaves transparent is black.
 QImage flattened(const QImage &frame)
@@ -26,6 +30,16 @@ QImage flattened(const QImage &frame)
     opaque.fill(Qt::black);
     QPainter(&opaque).drawImage(0, 0, frame);
     return opaque;
+}
+
+// Never larger than the canvas: that would only blur it.
+QImage fitted(const QImage &picture, int size)
+{
+    if (size == 0 || std::max(picture.width(), picture.height()) <= size)
+        return picture;
+    const QSize smaller = picture.size().scaled(size, size, Qt::KeepAspectRatio);
+    return picture.scaled(smaller.expandedTo({1, 1}), Qt::IgnoreAspectRatio,
+                          Qt::SmoothTransformation);
 }
 
 void writePng(const QImage &picture, const QString &path)
@@ -51,7 +65,7 @@ int renderFrame(const Options &options)
                                .arg(fileName(options.demo))
                                .arg(snap.canvasSize.width())
                                .arg(snap.canvasSize.height()));
-    writePng(flattened(frame), path);
+    writePng(fitted(flattened(frame), options.size), path);
     return 0;
 }
 
@@ -69,13 +83,17 @@ void addFrame(CLI::App &app, Console &, Action &chosen)
     command->add_option("--output,-o", options->output, "The picture to write")
         ->required()
         ->type_name("PNG");
+    command->add_option("--size", options->size, "Make it no wider and no higher than this")
+        ->type_name("PIXELS")
+        ->check(CLI::Range(1, largestSize));
     command->footer(R"(DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
-  last instant.
+  last instant. With --size, a larger picture is scaled down.
 
-EXAMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png)");
+EXAMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png)");
     command->callback([&chosen, options] { chosen = [options] { return renderFrame(*options); }; });
 }
 
