@@ -2,6 +2,7 @@
 
 #include "platform/AppControl.h"
 #include "platform/Clock.h"
+#include "platform/DesktopFact.h"
 #include "platform/DesktopShell.h"
 #include "platform/InputSynthesizer.h"
 #include "platform/InputTap.h"
@@ -12,14 +13,6 @@
 #include "platform/WindowControl.h"
 
 namespace velvane {
-
-/// Something about a session that decides what works there, for a person.
-struct DesktopFact {
-    QString what;
-    QString state;
-    /// What to do about it; empty when all is well.
-    QString remedy;
-};
 
 /// One machine, as this program sees it. Made and destroyed on the main thread; what its facilities
 /// handed out ends before it does.
@@ -47,7 +40,7 @@ public:
     /// What this desktop is, for a person: "X11 display :0".
     virtual QString description() const = 0;
 
-    /// What else is to be known of it when something does not work. Any thread.
+    /// What else is to be known of it when something does not work. Main thread.
     virtual std::vector<DesktopFact> facts() const { return {}; }
 
 protected:

@@ -1,11 +1,16 @@
 #!/usr/bin/python3
 """What the doctor says of sessions that lack something: the line is bad and names the remedy."""
 
+import json
 import os
+import shutil
 import subprocess
+import tempfile
 import unittest
 
+from accessible import wait_for
 from fixture import PROGRAM, main
+from portal import DARK, Portal
 from server import Server
 
 DRIVEN = ("Input posting", "Input listening", "Screen capture")
@@ -74,6 +79,45 @@ class Doctor(unittest.TestCase):
             for name in lacking:
                 self.assert_bad(findings, name, "Enable it in the server")
             self.assert_bad(findings, lacking[0], extension)
+
+    def test_each_thing_that_an_x_server_may_lack_has_its_line(self):
+        lines = (("XTEST", "Posting"), ("RECORD", "Listening"), ("DAMAGE", "Pictures"),
+                 ("MIT-SHM", "Fast pictures"), ("RANDR", "Displays"))
+        findings = self.findings()
+        for extension, name in lines:
+            with self.subTest(extension=extension):
+                self.assertIn(extension, findings[name][1])
+                self.assertTrue(findings[name][0])
+                lacking = self.findings(
+                    DISPLAY=self.server("-extension", extension).display)
+                self.assertEqual(lacking[name][1], f"lacks {extension}")
+                self.assert_bad(lacking, name, f"Enable {extension}")
+
+    def test_the_keyboards_layout_is_named(self):
+        subprocess.run(["setxkbmap", "de"], check=True)
+        self.addCleanup(subprocess.run, ["setxkbmap", "us"], check=True)
+        self.assertEqual(self.findings()["Keyboard"], (True, "layout de", ""))
+
+    def test_the_session_bus_and_what_is_reached_over_it(self):
+        self.assertTrue(self.findings()["Session bus"][0])
+        without = self.findings(DBUS_SESSION_BUS_ADDRESS="unix:path=/nowhere")
+        self.assert_bad(without, "Session bus", "dbus-run-session")
+        self.assert_bad(without, "Desktop portal", "xdg-desktop-portal")
+        portal = Portal(DARK)
+        self.addCleanup(portal.close)
+        wait_for(lambda: self.findings()["Desktop portal"][0], "the portal to be noticed")
+
+    def test_without_the_watchdog_the_remedy_is_to_install_again(self):
+        with tempfile.TemporaryDirectory() as folder:
+            alone = shutil.copy(PROGRAM, folder)
+            told = subprocess.run([alone, "doctor"], check=True, capture_output=True, text=True)
+        self.assertRegex(told.stdout, r"✗ Watchdog +missing\n  Install Velvane again")
+
+    def test_json_says_the_same_as_the_lines(self):
+        told = subprocess.run([PROGRAM, "doctor", "--json"], check=True, capture_output=True)
+        rows = {row["what"]: (row["works"], row["remedy"] or "") for row in json.loads(told.stdout)}
+        lines = {name: (good, remedy) for name, (good, _, remedy) in self.findings().items()}
+        self.assertEqual(rows, lines)
 
     def test_in_a_wayland_session_x11_is_the_remedy(self):
         findings = self.findings(WAYLAND_DISPLAY="wayland-0")

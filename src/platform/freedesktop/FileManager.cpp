@@ -1,9 +1,9 @@
 #include "platform/freedesktop/FileManager.h"
 
 #include "platform/freedesktop/Addresses.h"
+#include "platform/freedesktop/SessionServices.h"
 
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -28,16 +28,6 @@ void whenAnswered(const QDBusPendingCall &call, QObject &owner, const Answer &an
     });
 }
 
-bool canBeAsked()
-{
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return false;
-    const QDBusReply<bool> running = bus.interface()->isServiceRegistered(service);
-    const QDBusReply<QStringList> startable = bus.interface()->activatableServiceNames();
-    return running.value() || startable.value().contains(QLatin1String(service));
-}
-
 void tellProcess(QObject &owner, const std::function<void(qint64)> &shown)
 {
     QDBusMessage ask = QDBusMessage::createMethodCall(
@@ -60,7 +50,7 @@ bool FileManager::reveal(const QString &file, QObject &owner,
     if (!info.exists())
         return false;
     const QUrl folder = QUrl::fromLocalFile(info.absolutePath());
-    if (!canBeAsked())
+    if (!SessionServices::canBeHad(service))
         return Addresses::open(folder);
     QDBusMessage show = QDBusMessage::createMethodCall(service, "/org/freedesktop/FileManager1",
                                                        service, "ShowItems");

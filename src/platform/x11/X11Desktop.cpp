@@ -1,6 +1,9 @@
 #include "platform/x11/X11Desktop.h"
 
+#include "platform/freedesktop/SessionServices.h"
 #include "platform/x11/X11Compositor.h"
+#include "platform/x11/X11Facts.h"
+#include "platform/x11/X11Watchdog.h"
 
 #include <QCoreApplication>
 
@@ -60,13 +63,25 @@ DesktopFact X11Desktop::windowManager() const
                "use another window manager.")};
 }
 
+DesktopFact X11Desktop::watchdog()
+{
+    const QString what = tr("Watchdog");
+    if (!X11Watchdog::program().isEmpty())
+        return {what, tr("releases what is held if Velvane ends"), {}};
+    return {what, tr("missing"), tr("Install Velvane again: velvane-watchdog is not beside it.")};
+}
+
 std::vector<DesktopFact> X11Desktop::facts() const
 {
-    if (!m_connection.isOpen())
-        return {};
-    const QString compositor =
-        m_manager.isComposited() ? tr("running") : tr("none; none is needed");
-    return {windowManager(), {tr("Compositor"), compositor, {}}};
+    std::vector<DesktopFact> facts;
+    if (m_connection.isOpen()) {
+        const QString compositor =
+            m_manager.isComposited() ? tr("running") : tr("none; none is needed");
+        facts = {windowManager(), {tr("Compositor"), compositor, {}}};
+    }
+    for (const auto &more : {X11Facts::of(m_connection), {watchdog()}, SessionServices::facts()})
+        facts.insert(facts.end(), more.begin(), more.end());
+    return facts;
 }
 
 } // namespace velvane

@@ -36,6 +36,7 @@ public:
 
 private:
     DesktopFact windowManager() const;
+    static DesktopFact watchdog();
 
     const QString m_display;
     X11Connection m_connection;

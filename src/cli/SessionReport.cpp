@@ -1,0 +1,165 @@
+#include "cli/SessionReport.h"
+
+#include "media/EncoderInfo.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QImageReader>
+#include <QLocale>
+#include <QRawFont>
+#include <QStandardPaths>
+#include <QStorageInfo>
+
+#include <langinfo.h>
+
+namespace velvane::cli {
+
+namespace {
+
+// About a quarter of an hour of a busy screen.
+constexpr qint64 littleRoom = qint64(1) << 30;
+
+DesktopFact displayServer(Desktop &desktop)
+{
+    const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
+    const QString x11 = qEnvironmentVariable("DISPLAY");
+    if (!wayland.isEmpty())
+        return {"Display server", "Wayland (" + wayland + ')', {}};
+    if (!x11.isEmpty() && desktop.screens().pointer())
+        return {"Display server", desktop.description(), {}};
+    if (!x11.isEmpty())
+        return {"Display server", "X11 (" + x11 + "), which does not answer",
+                "Start this in the desktop session, where DISPLAY and XAUTHORITY are right."};
+    return {"Display server", "none",
+            "Rendering needs none; the editor does: start it in a desktop session."};
+}
+
+// What the desktop lets this program do, with its permission.
+DesktopFact ability(const QString &what, const Facility &facility, Permissions &permissions,
+                    Permission permission)
+{
+    // It knows the remedy.
+    QString reason = permissions.explanation(permission);
+    if (reason.isEmpty())
+        reason = facility.missing();
+    return {what, reason.isEmpty() ? "works" : "not here", reason};
+}
+
+DesktopFact captionFont()
+{
+    const QString family = "Inter";
+    if (QFontDatabase::hasFamily(family))
+        return {"Caption font", family + ", semibold", {}};
+    return {"Caption font", "Inter is missing, another sans-serif stands in",
+            "Install fonts-inter."};
+}
+
+// Is there any font with all of these characters' glyphs?
+bool canShow(const QString &characters)
+{
+    for (const QString &family : QFontDatabase::families()) {
+        const QRawFont font = QRawFont::fromFont(QFont(family));
+        const auto ucs4 = characters.toUcs4();
+        if (std::all_of(ucs4.begin(), ucs4.end(),
+                        [&](uint c) { return font.supportsCharacter(c); }))
+            return true;
+    }
+    return false;
+}
+
+DesktopFact glyphs(const QString &what, const QString &characters, const QString &package)
+{
+    if (canShow(characters))
+        return {what, characters, {}};
+    return {what, "no font has all of " + characters, "Install " + package + '.'};
+}
+
+DesktopFact pictures()
+{
+    QStringList formats;
+    for (const QByteArray &format : QImageReader::supportedImageFormats())
+        formats << QString::fromLatin1(format);
+    return {"Backdrop pictures", formats.join(' '), {}};
+}
+
+QFileInfo nearestExisting(const QString &folder)
+{
+    QFileInfo info(folder);
+    while (!info.exists() && !info.isRoot())
+        info = QFileInfo(info.absolutePath());
+    return info;
+}
+
+} // namespace
+
+DesktopFact sessionKind(const QString &type, const QString &desktop)
+{
+    const QString name = desktop.isEmpty() ? QString() : ", " + desktop;
+    if (type == "wayland")
+        return {"Session", "Wayland" + name,
+                "Log in with an X11 session: in a Wayland session demos can be composed and "
+                "rendered, not run or recorded."};
+    if (type == "x11")
+        return {"Session", "X11" + name, {}};
+    return {"Session", (type.isEmpty() ? QString("not told") : type) + name, {}};
+}
+
+DesktopFact roomForMovies(const QString &folder, qint64 bytes)
+{
+    const QString state = QString("%1, %2 free").arg(folder, QLocale::c().formattedDataSize(bytes));
+    if (bytes >= littleRoom)
+        return {"Recordings", state, {}};
+    return {"Recordings", state, "Make room there: a recording ends when the disk is full."};
+}
+
+DesktopFact movieFolder(const QString &folder)
+{
+    const QFileInfo place = nearestExisting(folder);
+    if (!place.isDir() || !place.isWritable())
+        return {"Recordings", QString("%1 cannot be written to").arg(folder),
+                QString("Make %1 a folder that you may write to, or name another folder for videos "
+                        "with xdg-user-dirs-update.")
+                    .arg(place.filePath())};
+    return roomForMovies(folder, QStorageInfo(place.filePath()).bytesAvailable());
+}
+
+DesktopFact locale(const QString &name, const QByteArray &characterSet)
+{
+    const QString state = QString("%1, %2").arg(name, QString::fromLatin1(characterSet));
+    if (characterSet == "UTF-8")
+        return {"Language", state, {}};
+    return {"Language", state,
+            "Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read "
+            "as they are written."};
+}
+
+std::vector<DesktopFact> sessionReport(Desktop &desktop)
+{
+    Permissions &permissions = desktop.permissions();
+    std::vector<DesktopFact> report{
+        displayServer(desktop),
+        sessionKind(qEnvironmentVariable("XDG_SESSION_TYPE"),
+                    qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
+    };
+    for (const DesktopFact &fact : desktop.facts())
+        report.push_back(fact);
+    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    for (const DesktopFact &fact : {
+             ability("Input posting", desktop.input(), permissions, Permission::accessibility),
+             ability("Input listening", desktop.tap(), permissions, Permission::inputMonitoring),
+             ability("Screen capture", desktop.capture(), permissions, Permission::screenRecording),
+             movieFolder(movies + "/Velvane"),
+             DesktopFact{"H.264 encoder", EncoderInfo::encoder(), {}},
+             DesktopFact{"Movie files", EncoderInfo::muxer(), {}},
+             captionFont(),
+             glyphs("Shortcut glyphs", QStringLiteral("⌃⌥⇧⌘⌫↩"), "fonts-dejavu-core"),
+             glyphs("Emoji", QStringLiteral("👍🎉"), "fonts-noto-color-emoji"),
+             pictures(),
+             locale(QLocale::system().name(), nl_langinfo(CODESET)),
+         })
+        report.push_back(fact);
+    return report;
+}
+
+} // namespace velvane::cli
