@@ -4,6 +4,7 @@ import base64
 import datetime
 import pathlib
 import plistlib
+import subprocess
 
 KINDS = ["move", "click", "rightClick", "hold", "release", "type", "shortcut", "wait", "switchApp",
          "section"]
@@ -48,9 +49,37 @@ FEEDS = {
 }
 
 
+# The smallest movies of each kind that is read, and how ffmpeg makes them.
+MOVIES = {
+    "plain.mp4": "-c:v libx264 -g 2",
+    "fragmented.mp4": "-c:v libx264 -g 2 -movflags +frag_keyframe+empty_moov",
+    "turned.mov": "-c:v mpeg4 -metadata:s:v rotate=90",
+    "h264.mkv": "-c:v libx264 -g 2",
+    "vp8.webm": "-c:v libvpx",
+    "vp9.webm": "-c:v libvpx-vp9",
+    "motion.mov": "-c:v mjpeg",
+}
+# FOLDER becomes the one where the fuzzer has a movie of that name.
+BOOKMARKS = {
+    "place": "velvane recording\n1\n1\n5\nFOLDER/run.mp4",
+    "renamed": "velvane recording\n1\n2\n5\nFOLDER/before.mp4",
+    "lines": "velvane recording\n-1\n9223372036854775808\nx\n/a\nb.webm",
+    "device": "velvane recording\n0\n0\n0\n/dev/zero.mov",
+    "relative": "velvane recording\n0\n0\n0\n../run.mkv",
+    "empty": "",
+}
+
+
+def make_movie(path, options):
+    command = ["ffmpeg", "-nostdin", "-v", "error", "-y", "-f", "lavfi",
+               "-i", "testsrc=s=16x16:r=5:d=1", "-pix_fmt", "yuv420p",
+               "-fflags", "+bitexact", "-flags:v", "+bitexact", *options.split(), str(path)]
+    subprocess.run(command, check=True)
+
+
 def main():
     here = pathlib.Path(__file__).parent / "corpus"
-    for folder in ("binary", "xml", "demo", "appcast"):
+    for folder in ("binary", "xml", "demo", "appcast", "movie", "bookmark"):
         (here / folder).mkdir(parents=True, exist_ok=True)
     for name, value in VALUES.items():
         binary = plistlib.dumps(value, fmt=plistlib.FMT_BINARY, sort_keys=False)
@@ -64,6 +93,10 @@ def main():
     (here / "binary" / "uids").write_bytes(uids)
     for name, feed in FEEDS.items():
         (here / "appcast" / name).write_text(feed, encoding="utf-8")
+    for name, options in MOVIES.items():
+        make_movie(here / "movie" / name, options)
+    for name, text in BOOKMARKS.items():
+        (here / "bookmark" / name).write_text(text)
 
 
 if __name__ == "__main__":
