@@ -67,6 +67,8 @@ int runDemo(DemoDocument &demo, Desktop &desktop, const DemoRun &run, Console &c
     if (live.outcome() == LiveRunController::Outcome::refused)
         throw CommandError(outcome);
     console.out << printable(outcome) << std::endl;
+    if (!live.recordingPath().isEmpty())
+        console.out << live.recordingPath().toStdString() << std::endl;
     return live.outcome() == LiveRunController::Outcome::finished ? 0 : 1;
 }
 

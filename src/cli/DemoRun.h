@@ -15,8 +15,8 @@ struct DemoRun {
 };
 
 /// Performs a demo on the desktop until its end, or until Esc, Ctrl-C or SIGTERM stop it. The
-/// outcome is one line on out; 0 when the run went to its end, else 1. Throws CommandError when it
-/// cannot begin.
+/// outcome is one line on out, and the movie's path another when there is one; 0 when the run went
+/// to its end, else 1. Throws CommandError when it cannot begin.
 int runDemo(DemoDocument &demo, Desktop &desktop, const DemoRun &run, Console &console);
 
 } // namespace velvane::cli

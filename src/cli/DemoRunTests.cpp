@@ -3,6 +3,9 @@
 #include "base/KeyCode.h"
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
+#include "support/TemporaryHome.h"
+
+#include <QDir>
 
 #include <gtest/gtest.h>
 
@@ -120,10 +123,30 @@ TEST_F(DemoRunTest, WhatTheDesktopLacksIsRefused)
 
 TEST_F(DemoRunTest, ARecordingThatCannotBeMadeIsToldAndTheDemoRuns)
 {
+    const TemporaryHome home;
+    desktop.capture().failWith("No capture today.");
     run.options.recordMode = RecordMode::window;
     EXPECT_EQ(perform(), 0);
-    EXPECT_EQ(err.str().rfind("Couldn't start recording: ", 0), 0U);
+    EXPECT_EQ(err.str(), "Couldn't start recording: No capture today.\n");
     EXPECT_EQ(out.str(), "Live run finished.\n");
+}
+
+TEST_F(DemoRunTest, BelowTheOutcomeOfARecordedRunStandsThePathOfTheMovie)
+{
+    const TemporaryHome home;
+    run.options.recordMode = RecordMode::screen;
+    run.options.recordCursor = false;
+    QImage picture(1920, 1080, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    desktop.clock().at(1s, [&] { desktop.capture().show(picture); });
+    EXPECT_EQ(perform(), 0);
+    const QDir folder(home.path() + "/Movies/Velvane");
+    const QStringList movies = folder.entryList(QDir::Files);
+    ASSERT_EQ(movies.size(), 1);
+    EXPECT_EQ(QString::fromStdString(out.str()),
+              QString("Recording saved to %1 — revealed in Finder.\n%2\n")
+                  .arg(movies[0], folder.filePath(movies[0])));
+    EXPECT_FALSE(desktop.capture().requests().back().showsCursor);
 }
 
 TEST_F(DemoRunTest, OthersAreHiddenOnlyWhenAsked)

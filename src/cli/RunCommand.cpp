@@ -54,7 +54,11 @@ void addRun(CLI::App &app, Console &console, Action &chosen)
   STEP is a step's id or its number, as “velvane inspect” shows them. The
   cursor then begins where the demo would have left it.
 
-  The outcome goes to standard output. The exit status is 0 when the demo was
+  The outcome goes to standard output, and so does the path of the movie of a
+  recorded run, below it. Movies are put into Movies/Velvane in the home
+  folder. With “window” what the window of the demo's one application covers
+  is recorded; where there is none, or where the demo switches between
+  several, the whole screen is. The exit status is 0 when the demo was
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE

@@ -148,12 +148,15 @@ void EditorToolBar::updateRunOptions()
     m_hideOthers->setChecked(m_settings.hideOthersDuringRun());
     m_recordCursor->setChecked(m_settings.recordCursor());
     const bool singleApp = !StepList::hasSeveralSwitchApps(m_project.steps());
+    const QString missing = m_live.recordingMissing();
     const QList<QAction *> actions = m_modes->actions();
     Q_ASSERT(actions.size() == modes);
     for (QAction *action : actions) {
         const auto mode = RecordMode(action->data().toInt());
         action->setChecked(mode == m_settings.recordMode());
-        action->setEnabled(mode != RecordMode::window || singleApp);
+        action->setEnabled(mode == RecordMode::off
+                           || (missing.isEmpty() && (mode != RecordMode::window || singleApp)));
+        action->setToolTip(mode == RecordMode::off ? QString() : missing);
     }
     m_windowNote->setVisible(!singleApp);
 }

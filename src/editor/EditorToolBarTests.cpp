@@ -147,6 +147,16 @@ TEST_F(EditorToolBarTest, TheActiveWindowNeedsASingleAppFlow)
     EXPECT_TRUE(option("Active window needs a single-app flow").isVisible());
 }
 
+TEST_F(EditorToolBarTest, WhereTheScreenCannotBeCapturedRecordingItIsNotOffered)
+{
+    desktop.capture().setMissing("No screen here.");
+    open({});
+    EXPECT_TRUE(option("Don't record").isEnabled());
+    EXPECT_FALSE(option("Record screen").isEnabled());
+    EXPECT_EQ(option("Record screen").toolTip(), "No screen here.");
+    EXPECT_FALSE(option("Record active window").isEnabled());
+}
+
 TEST_F(EditorToolBarTest, RunLiveIsDisabledWithItsReasonUntilItIsPossible)
 {
     desktop.input().setMissing("No input here.");

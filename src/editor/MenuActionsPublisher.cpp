@@ -102,7 +102,8 @@ void MenuActionsPublisher::readState()
     m_actions.canPickLocation = m_editor.pickLocation().canPickLocation();
     m_actions.recordMode = settings.recordMode();
     m_actions.windowRecordingAvailable =
-        !StepList::hasSeveralSwitchApps(m_editor.project().steps());
+        m_editor.liveRun().recordingMissing().isEmpty()
+        && !StepList::hasSeveralSwitchApps(m_editor.project().steps());
     m_actions.recordCursor = settings.recordCursor();
 }
 

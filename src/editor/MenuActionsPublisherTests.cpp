@@ -153,6 +153,13 @@ TEST_F(MenuActionsPublisherTest, OnlyADemoOfOneAppCanBeRecordedByItsWindow)
     EXPECT_FALSE(actions().windowRecordingAvailable);
 }
 
+TEST_F(MenuActionsPublisherTest, WhereTheScreenCannotBeCapturedNoWindowCanBeRecorded)
+{
+    desktop.capture().setMissing("No screen here.");
+    open({stepOf(StepKind::switchApp, "Invoices")});
+    EXPECT_FALSE(actions().windowRecordingAvailable);
+}
+
 TEST_F(MenuActionsPublisherTest, RecordingChoicesReachEveryOpenEditorAtOnce)
 {
     open({});

@@ -2,9 +2,12 @@
 
 #include "base/Background.h"
 #include "base/KeyCode.h"
+#include "capture/Bookmark.h"
 #include "live/Applications.h"
 #include "live/Run.h"
 #include "model/StepList.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -17,6 +20,13 @@ constexpr int firstNumber = 3;
 constexpr Seconds eachNumber = 0.8s;
 // How soon the countdown notices that it has been cancelled.
 constexpr Seconds glance = 0.1s;
+
+// The application whose window is recorded: that of the first switch.
+QString targetOf(const Snapshot &demo)
+{
+    const auto first = std::ranges::find(demo.steps, StepKind::switchApp, &Step::kind);
+    return first == demo.steps.end() ? QString() : first->text;
+}
 
 } // namespace
 
@@ -89,8 +99,9 @@ QCoro::Task<> LiveRunController::runLive(std::optional<QUuid> from)
     if (!begin(demo))
         co_return;
     co_await countDown();
-    startRecording();
+    startRecording(demo);
     co_await perform(demo);
+    co_await stopRecording();
     end();
 }
 
@@ -98,6 +109,7 @@ QCoro::Task<> LiveRunController::runLive(std::optional<QUuid> from)
 bool LiveRunController::begin(const Snapshot &demo)
 {
     m_outcome = Outcome::refused;
+    m_recordingPath.clear();
     QString refused = refusal(demo);
     if (refused.isEmpty()) {
         m_liveCancel = false;
@@ -133,12 +145,24 @@ QCoro::Task<> LiveRunController::rest(Seconds duration)
         co_await clock.delay(std::min(glance, end - clock.now()));
 }
 
-void LiveRunController::startRecording()
+// A demo that moves between applications is recorded whole.
+void LiveRunController::startRecording(const Snapshot &demo)
 {
     if (m_options.recordMode == RecordMode::off || m_liveCancel)
         return;
-    Q_EMIT reported(tr("Couldn't start recording: %1")
-                        .arg(tr("This version of Velvane cannot record the screen yet.")));
+    const bool isWindow =
+        m_options.recordMode == RecordMode::window && !StepList::hasSeveralSwitchApps(demo.steps);
+    m_recorder = std::make_unique<RunRecorder>(m_desktop);
+    connect(m_recorder.get(), &RunRecorder::ended, this, [this](const QString &reason) {
+        Q_EMIT reported(tr("Recording stopped: %1").arg(reason));
+    });
+    try {
+        m_recorder->start(isWindow ? RecordScope::window : RecordScope::screen, targetOf(demo),
+                          m_options.recordCursor, false);
+    } catch (const std::exception &error) {
+        m_recorder.reset();
+        Q_EMIT reported(tr("Couldn't start recording: %1").arg(QString::fromUtf8(error.what())));
+    }
 }
 
 QCoro::Task<> LiveRunController::perform(const Snapshot &demo)
@@ -153,21 +177,52 @@ QCoro::Task<> LiveRunController::perform(const Snapshot &demo)
     co_await inBackground(run);
 }
 
+QCoro::Task<> LiveRunController::stopRecording()
+{
+    if (!m_recorder)
+        co_return;
+    co_await m_recorder->stop();
+    m_recordingPath = m_recorder->url();
+    if (const auto bookmark = Bookmark::of(m_recordingPath))
+        m_project.setRecordingBookmark(bookmark);
+}
+
 void LiveRunController::end()
 {
     m_escMonitor.reset();
     setRunningLive(false);
-    QString message = m_liveCancel ? tr("Live run stopped.") : tr("Live run finished.");
     m_outcome = m_liveCancel ? Outcome::stopped : Outcome::finished;
+    QString message = comeBack();
     if (!m_desktop.screens().pointer()) {
         message = tr("Live run stopped: the display has gone.");
         m_outcome = Outcome::stopped;
     }
-    m_desktop.shell().unhide();
-    m_desktop.shell().activate();
+    m_recorder.reset();
     setBusy(false);
     Q_EMIT reported(message);
     Q_EMIT finished();
+}
+
+// Brings us back in front, or shows the movie; what is to be told of it.
+QString LiveRunController::comeBack()
+{
+    m_desktop.shell().unhide();
+    if (m_recordingPath.isEmpty()) {
+        m_desktop.shell().activate();
+        return m_liveCancel ? tr("Live run stopped.") : tr("Live run finished.");
+    }
+    // We come back in front when nothing else can.
+    if (!m_desktop.shell().reveal(m_recordingPath))
+        m_desktop.shell().activate();
+    const QString name = QFileInfo(m_recordingPath).fileName();
+    return tr("Recording saved to %1%2 — revealed in Finder.")
+        .arg(name, m_recorder->fellBackToScreen() ? tr(" (window not found — recorded full screen)")
+                                                  : QString());
+}
+
+QString LiveRunController::recordingMissing() const
+{
+    return m_desktop.capture().missing();
 }
 
 void LiveRunController::cancel()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "capture/RunRecorder.h"
 #include "live/RunOptions.h"
 #include "model/Project.h"
 #include "platform/Desktop.h"
@@ -12,6 +13,8 @@
 namespace velvane {
 
 /// Performs the demo on the real desktop: checks, countdown, run, report. Main thread only.
+///
+/// A run that is recorded becomes the demo's recording, without an undo entry.
 ///
 /// Esc ends a run wherever the focus is. Must not be destroyed while busy: see cancelThen().
 class LiveRunController : public QObject {
@@ -50,6 +53,11 @@ public:
     QCoro::Task<> runLive(std::optional<QUuid> from = {});
     /// How the last run ended.
     Outcome outcome() const { return m_outcome; }
+    /// The movie of the last run; empty when there is none.
+    QString recordingPath() const { return m_recordingPath; }
+    /// Why no run can be recorded: one sentence for a tooltip; empty when one can, or when only
+    /// the permission is withheld.
+    QString recordingMissing() const;
 
     /// Stops the run within one event, as Esc does. Any thread.
     void cancel();
@@ -76,9 +84,11 @@ private:
     void setLiveCountdown(int number);
     QCoro::Task<> countDown();
     QCoro::Task<> rest(Seconds duration);
-    void startRecording();
+    void startRecording(const Snapshot &demo);
     QCoro::Task<> perform(const Snapshot &demo);
+    QCoro::Task<> stopRecording();
     void end();
+    QString comeBack();
 
     Project &m_project;
     Playback &m_playback;
@@ -87,6 +97,8 @@ private:
     RunOptions m_options;
     QString m_held;
     Token m_escMonitor;
+    std::unique_ptr<RunRecorder> m_recorder;
+    QString m_recordingPath;
     Outcome m_outcome = Outcome::refused;
     bool m_isBusy = false;
     bool m_isRunningLive = false;

@@ -175,24 +175,6 @@ TEST_F(LiveRun, HidingOthersHidesThemAndUsAndBringsUsBack)
     EXPECT_TRUE(desktop.shell().active());
 }
 
-TEST_F(LiveRun, ARecordingThatCannotBeMadeDoesNotKeepTheDemoFromRunning)
-{
-    options.recordMode = RecordMode::screen;
-    run();
-    ASSERT_EQ(reported.size(), 2);
-    EXPECT_TRUE(reported[0].startsWith("Couldn't start recording: "));
-    EXPECT_EQ(reported[1], "Live run finished.");
-    EXPECT_EQ(desktop.log(), whole());
-}
-
-TEST_F(LiveRun, CancelledInTheCountdownNoRecordingIsTried)
-{
-    options.recordMode = RecordMode::screen;
-    pressEscapeAt(1s);
-    run();
-    EXPECT_EQ(reported, QStringList("Live run stopped."));
-}
-
 TEST_F(LiveRun, AClosingWindowWaitsForTheEndOfTheRun)
 {
     QObject window;
