@@ -1,0 +1,236 @@
+#include "CaptureStage.h"
+#include "Eventually.h"
+#include "RecordedMovie.h"
+#include "TestWindow.h"
+#include "X11Session.h"
+#include "capture/RunRecorder.h"
+#include "support/RunToEnd.h"
+#include "support/TemporaryHome.h"
+
+#include <QPainter>
+#include <QRasterWindow>
+
+namespace velvane {
+
+namespace {
+
+const QColor red(190, 30, 30);
+const QColor green(0, 255, 0);
+const QColor blue(40, 60, 200);
+const QList<QColor> palette{red, blue, QColor(220, 200, 40), QColor(60, 60, 60)};
+
+class RecordingTest : public testing::Test {
+protected:
+    Clock &clock() { return session.desktop().clock(); }
+
+    QString start(RecordScope scope = RecordScope::screen, const QString &app = {},
+                  bool cursor = false)
+    {
+        return recorder.start(scope, app, cursor, false);
+    }
+    RecordedMovie stop()
+    {
+        const QString path = recorder.url();
+        runToEnd(recorder.stop());
+        return RecordedMovie(path);
+    }
+    /// Turns the event loop for a while.
+    static void pass(int milliseconds)
+    {
+        const QDeadlineTimer end(milliseconds);
+        while (!end.hasExpired()) {
+            QCoreApplication::processEvents();
+            QThread::msleep(2);
+        }
+    }
+    void movePointer(int x, int y)
+    {
+        xcb_warp_pointer(theirs.get(), XCB_NONE, theirs.root(), 0, 0, 0, 0, int16_t(x), int16_t(y));
+        xcb_flush(theirs.get());
+        ASSERT_TRUE(
+            eventually([&] { return session.desktop().screens().pointer() == QPointF(x, y); }));
+    }
+
+    TemporaryHome home;
+    X11Session session;
+    X11Connection theirs;
+    RunRecorder recorder{session.desktop()};
+    BareWindow scene{theirs, QRect(100, 100, 600, 400), red};
+};
+
+/// A window of ours, all green.
+class GreenWindow : public QRasterWindow {
+public:
+    GreenWindow(const QRect &frame, Qt::WindowFlags flags)
+    {
+        setFlags(flags);
+        setGeometry(frame);
+        show();
+    }
+
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter(this).fillRect(QRect({}, size()), green);
+        wasPainted = true;
+    }
+    bool wasPainted = false;
+};
+
+} // namespace
+
+TEST_F(RecordingTest, EveryChangeIsInTheMovieAtItsTime)
+{
+    start();
+    struct Change {
+        Seconds earliest;
+        Seconds latest;
+        QColor color;
+    };
+    std::vector<Change> changes;
+    for (int i = 0; i < 16; ++i) {
+        pass(i % 4 == 3 ? 700 : 80 + 13 * i);
+        const QColor color = palette[(i + 1) % palette.size()];
+        const Seconds before = clock().now() - recorder.begun();
+        scene.paint(QRect(0, 0, 600, 400), color);
+        changes.push_back({before, clock().now() - recorder.begun(), color});
+    }
+    pass(300);
+    const Seconds length = clock().now() - recorder.begun();
+    const RecordedMovie movie = stop();
+
+    EXPECT_EQ(movie.size(), theirs.rootSize());
+    EXPECT_NEAR(movie.duration(), length.count(), 0.1);
+    const std::vector<RecordedMovie::Change> seen = movie.changesAt({400, 300});
+    ASSERT_EQ(seen.size(), changes.size() + 1) << "the first colour, and each that followed";
+    constexpr double frame = 1 / 60.0 + 0.001;
+    int late = 0;
+    for (size_t i = 0; i < changes.size(); ++i) {
+        EXPECT_TRUE(seen[i + 1].shows(changes[i].color)) << i;
+        EXPECT_GE(seen[i + 1].time, changes[i].earliest.count() - frame) << i;
+        // A machine that has more to do than it can takes its pictures late, now and then.
+        late += seen[i + 1].time > changes[i].latest.count() + frame;
+        EXPECT_LE(seen[i + 1].time, changes[i].latest.count() + 0.3) << i;
+    }
+    EXPECT_LE(late, 4);
+}
+
+TEST_F(RecordingTest, ThePointerIsThereWhenAskedForAndOnlyThen)
+{
+    for (const bool cursor : {true, false}) {
+        RunRecorder one(session.desktop());
+        movePointer(300, 250);
+        const QString path = one.start(RecordScope::screen, {}, cursor, false);
+        pass(300);
+        runToEnd(one.stop());
+        EXPECT_EQ(RecordedMovie(path).differs(QRect(300, 250, 12, 12), red), cursor);
+        // Its name is that of its second.
+        EXPECT_TRUE(QFile::remove(path));
+    }
+}
+
+TEST_F(RecordingTest, AWindowIsRecordedWithWhatLiesOverIt)
+{
+    TestWindow window(theirs, "Notebook", QRect(200, 150, 501, 381));
+    window.setNumbers("_NET_WM_PID", XCB_ATOM_CARDINAL, {1});
+    const auto frame = [&]() -> QRectF {
+        const auto found =
+            RunRecorder::mainWindow("notebook", session.desktop().windows().windows());
+        return found ? found->frame : QRectF();
+    };
+    ASSERT_TRUE(eventually([&] { return !frame().isEmpty(); }));
+    const QRect place = frame().toRect();
+    const BareWindow above(theirs, QRect(place.topLeft() + QPoint(20, 60), QSize(80, 80)), blue);
+    start(RecordScope::window, " NOTEBOOK ");
+    EXPECT_FALSE(recorder.fellBackToScreen());
+    pass(300);
+    const RecordedMovie movie = stop();
+    EXPECT_EQ(movie.size(), QSize(place.width() & ~1, place.height() & ~1));
+    EXPECT_FALSE(movie.differs(QRect(30, 70, 60, 60), blue));
+}
+
+TEST_F(RecordingTest, WithoutTheWindowTheScreenIsRecorded)
+{
+    start(RecordScope::window, "Nobody");
+    EXPECT_TRUE(recorder.fellBackToScreen());
+    pass(200);
+    EXPECT_EQ(stop().size(), theirs.rootSize());
+}
+
+TEST_F(RecordingTest, OurWindowsAreInNoPicture)
+{
+    GreenWindow editor(QRect(50, 50, 700, 500), Qt::Window);
+    ASSERT_TRUE(eventually([&] { return editor.wasPainted; }));
+    start();
+    for (int i = 0; i < 6; ++i) {
+        GreenWindow menu(QRect(150 + i * 10, 150, 120, 200), Qt::Popup);
+        GreenWindow dialog(QRect(300, 200 + i * 10, 200, 100), Qt::Dialog);
+        EXPECT_TRUE(eventually([&] { return menu.wasPainted && dialog.wasPainted; }));
+        scene.paint(QRect(0, 0, 600, 400), palette[i % palette.size()]);
+        pass(60);
+    }
+    const RecordedMovie movie = stop();
+    EXPECT_GT(movie.changesAt({400, 300}).size(), 4U);
+    EXPECT_FALSE(movie.everShows(green));
+}
+
+TEST(RecordingServer, AChangeOfResolutionGoesOnInTheSameMovie)
+{
+    const TemporaryHome home;
+    TestServer server({"-screen", "0", "1280x1024x24", "+extension", "RANDR"});
+    X11Session session(server.display());
+    X11Connection theirs(server.display());
+    BareWindow scene(theirs, QRect(0, 0, 1280, 1024), red);
+    RunRecorder recorder(session.desktop());
+    const QString path = recorder.start(RecordScope::screen, {}, false, false);
+    const auto xrandr = [&](const QString &options) {
+        QProcess::execute("xrandr", QStringList{"-d", server.display()} + options.split(' '));
+    };
+    xrandr("--newmode small 40 800 840 968 1056 600 601 605 628");
+    xrandr("--addmode screen small");
+    xrandr("--output screen --mode small");
+    ASSERT_TRUE(eventually([&] {
+        const auto display = session.desktop().screens().primaryDisplay();
+        return display && display->frame.size() == QSizeF(800, 600);
+    }));
+    scene.paint(QRect(0, 0, 1280, 1024), blue);
+    QThread::msleep(500);
+    xrandr("--output screen --mode 1280x1024");
+    scene.paint(QRect(0, 0, 1280, 1024), palette[2]);
+    QThread::msleep(500);
+    runToEnd(recorder.stop());
+
+    const RecordedMovie movie(path);
+    EXPECT_EQ(movie.size(), QSize(1280, 1024));
+    QList<int> shown;
+    for (const RecordedMovie::Change &change : movie.changesAt({640, 512})) {
+        for (int i = 0; i < palette.size(); ++i) {
+            if (change.shows(palette[i]))
+                shown << i;
+        }
+    }
+    EXPECT_EQ(shown.value(0), 0);
+    EXPECT_TRUE(shown.contains(1));
+    EXPECT_EQ(shown.last(), 2);
+}
+
+TEST(RecordingServer, AServerThatGoesAwayEndsTheRecordingAndKeepsIt)
+{
+    const TemporaryHome home;
+    TestServer server;
+    X11Session session(server.display());
+    X11Connection theirs(server.display());
+    BareWindow scene(theirs, QRect(0, 0, 400, 400), red);
+    RunRecorder recorder(session.desktop());
+    QStringList ended;
+    QObject::connect(&recorder, &RunRecorder::ended,
+                     [&](const QString &reason) { ended << reason; });
+    const QString path = recorder.start(RecordScope::screen, {}, true, false);
+    QThread::msleep(400);
+    server.stop();
+    EXPECT_TRUE(eventually([&] { return !ended.isEmpty(); }));
+    EXPECT_EQ(ended, QStringList("The X server has gone."));
+    runToEnd(recorder.stop());
+    EXPECT_TRUE(RecordedMovie(path).changesAt({200, 200}).front().shows(red));
+}
+
+} // namespace velvane
