@@ -18,6 +18,7 @@ constexpr int cellWidth = 44;
 constexpr int iconTop = 6;
 constexpr int labelTop = 27;
 constexpr int labelHeight = 14;
+constexpr int narrowest = 70; // per cent of the width of letters
 
 /// Families are parted by a line, as their tiles part them in the list.
 bool beginsFamily(StepKind kind)
@@ -42,6 +43,15 @@ QSize AddStepButton::sizeHint() const
     return {cellWidth, cellHeight};
 }
 
+QFont AddStepButton::labelFont() const
+{
+    QFont font = Theme::font(TextSize::small);
+    const int advance = QFontMetrics(font).horizontalAdvance(text());
+    if (advance > width())
+        font.setStretch(std::max(narrowest, 100 * width() / advance - 1));
+    return font;
+}
+
 void AddStepButton::paintEvent(QPaintEvent *)
 {
     const ThemeColors &colors = Theme::instance().colors();
@@ -63,9 +73,10 @@ void AddStepButton::paintEvent(QPaintEvent *)
     const QColor color = !isEnabled() ? colors.disabled : lit ? colors.text : colors.secondary;
     Icons::draw(painter, symbol(m_kind), color, QRectF(0, iconTop, whole.width(), Metrics::icon),
                 Metrics::icon);
-    painter.setFont(Theme::font(TextSize::small));
+    painter.setFont(labelFont());
     painter.setPen(color);
-    painter.drawText(QRectF(0, labelTop, whole.width(), labelHeight), Qt::AlignCenter, text());
+    painter.drawText(QRectF(0, labelTop, whole.width(), labelHeight), Qt::AlignCenter,
+                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }
 
 AddStepGrid::AddStepGrid(QWidget *parent) : QWidget(parent)

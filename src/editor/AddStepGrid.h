@@ -3,6 +3,7 @@
 #include "model/StepKind.h"
 
 #include <QAbstractButton>
+#include <QFont>
 
 class QMenu;
 
@@ -14,6 +15,8 @@ class AddStepButton : public QAbstractButton {
 public:
     explicit AddStepButton(StepKind kind, QWidget *parent = nullptr);
     QSize sizeHint() const override;
+    /// What the name is drawn with: narrower than other small text where that makes it fit.
+    QFont labelFont() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

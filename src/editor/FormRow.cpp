@@ -13,22 +13,29 @@ constexpr int textGap = 6;
 
 FormRow::FormRow(const QString &label, QWidget *parent)
     : QWidget(parent)
-    , m_row(new QHBoxLayout(this))
+    , m_whole(new QBoxLayout(QBoxLayout::LeftToRight, this))
+    , m_row(new QHBoxLayout)
     , m_label(new QLabel(label, this))
 {
     // As high as its highest control, whatever that would take.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    m_row->setContentsMargins(0, 0, 0, 0);
+    m_whole->setContentsMargins(0, 0, 0, 0);
     m_row->setSpacing(textGap);
     m_label->setProperty("look", QStringLiteral("note"));
     m_label->setMinimumHeight(Metrics::fieldHeight);
     setLabelColumn(Metrics::labelColumn);
-    m_row->addWidget(m_label, 0, Qt::AlignTop);
+    m_whole->addWidget(m_label, 0, Qt::AlignTop);
+    m_whole->addLayout(m_row, 1);
 }
 
 void FormRow::setLabelColumn(int width)
 {
-    m_label->setFixedWidth(width - textGap);
+    m_label->ensurePolished();
+    const int natural = m_label->sizeHint().width();
+    const bool fits = natural <= width - textGap;
+    m_whole->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_whole->setSpacing(fits ? textGap : 0);
+    m_label->setFixedWidth(fits ? width - textGap : natural);
 }
 
 void FormRow::add(QWidget *control, int stretch)

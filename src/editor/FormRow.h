@@ -6,7 +6,8 @@
 
 namespace velvane {
 
-/// One line of a form: a label and what it names. Without a label the contents keep the column.
+/// One line of a form: a label and what it names. Without a label the contents keep the column. A
+/// label that is too long for its column, as words of some languages are, stands above.
 class FormRow : public QWidget {
     Q_OBJECT
 public:
@@ -21,6 +22,7 @@ public:
     void setLabelColumn(int width);
 
 private:
+    QBoxLayout *m_whole;
     QHBoxLayout *m_row;
     QLabel *m_label;
 };

@@ -101,6 +101,7 @@ QWidget *InspectorPane::makeTitle(QLabel *title)
     header->setFixedHeight(Metrics::toolbarHeight);
     auto *row = new QHBoxLayout(header);
     title->setFont(Theme::font(TextSize::title, QFont::DemiBold));
+    title->setWordWrap(true);
     row->addWidget(title);
     m_padded << header;
     return header;
@@ -115,6 +116,7 @@ QWidget *InspectorPane::makeHeader()
     m_tile = new StepTile(header);
     m_title = new QLabel(header);
     m_title->setFont(Theme::font(TextSize::title, QFont::DemiBold));
+    m_title->setWordWrap(true);
     m_number = new QLabel(header);
     m_number->setProperty("look", QStringLiteral("hint"));
     m_number->setFont(Theme::font(TextSize::secondary));
@@ -147,6 +149,7 @@ QWidget *InspectorPane::makeDemoPage()
     auto *title = new QLabel(tr("No step selected"), body);
     title->setFont(Theme::font(TextSize::title, QFont::DemiBold));
     title->setFixedHeight(Metrics::toolbarHeight);
+    title->setWordWrap(true);
     column->addWidget(title);
     column->addWidget(Controls::note(hint(), QStringLiteral("note"), body));
     column->addSpacing(Metrics::pagePadding);

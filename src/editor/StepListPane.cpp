@@ -149,6 +149,9 @@ void StepListPane::setAddMenu(bool menu)
     m_title->setVisible(!menu);
     m_grid->setVisible(!menu);
     m_addMenu->setVisible(menu);
+    m_recordButton->setIconOnly(false);
+    const int labels = m_addMenu->sizeHint().width() + m_recordButton->sizeHint().width();
+    m_recordButton->setIconOnly(menu && labels + 3 * Metrics::gap > Metrics::sidebarMinimum);
     setPadding(m_padding);
 }
 
