@@ -26,16 +26,18 @@ struct AutosaveTest : DocumentsFixture {
     void tick()
     {
         QEventLoop loop;
-        QObject::connect(autosave.get(), &Autosave::atRest, &loop, &QEventLoop::quit);
-        bool isLate = false;
-        constexpr int longEnough = 20'000; // milliseconds
-        QTimer::singleShot(longEnough, &loop, [&] {
-            isLate = true;
+        bool isAtRest = false;
+        QObject::connect(autosave.get(), &Autosave::atRest, &loop, [&] {
+            isAtRest = true;
             loop.quit();
         });
+        constexpr int longEnough = 20'000; // milliseconds
+        QTimer::singleShot(longEnough, &loop, &QEventLoop::quit);
         autosave->tick();
-        loop.exec();
-        EXPECT_FALSE(isLate) << "nothing was written";
+        // What is written quickly may have been written by now.
+        if (!isAtRest)
+            loop.exec();
+        EXPECT_TRUE(isAtRest) << "nothing was written";
     }
     /// The names of the files in which demos are kept.
     QStringList kept() const
