@@ -1,43 +1,36 @@
 #include "app/HelpCommands.h"
 
+#include "app/HelpPage.h"
 #include "app/Question.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QMenu>
 
 namespace velvane::HelpCommands {
 
 namespace {
 
+// Short enough to be waited for, since the installed page is as good.
+constexpr Seconds patience = 3s;
+
 QString tr(const char *text)
 {
     return QCoreApplication::translate("HelpCommands", text);
 }
 
-void open(DesktopShell &shell, QWidget *window)
-{
-    const QUrl page = documentation();
-    // The session's shell knows best; without one Qt asks the desktop itself.
-    const bool opened =
-        shell.missing().isEmpty() ? shell.open(page) : QDesktopServices::openUrl(page);
-    if (!opened)
-        ask(window, Question::message(tr("The documentation could not be opened."),
-                                      tr("It is found at %1.").arg(page.toString())));
-}
-
 } // namespace
-
-QUrl documentation()
-{
-    return QUrl(QStringLiteral(VELVANE_SITE "/apps/velvane/docs.html"));
-}
 
 void addTo(QMenu &menu, DesktopShell &shell, QWidget &window)
 {
+    const HelpPlaces places = HelpPlaces::usual();
+    auto *page = new HelpPage(shell, places, patience, &window);
+    QObject::connect(page, &HelpPage::failed, &window, [&window, places] {
+        ask(&window, Question::message(tr("The documentation could not be opened."),
+                                       tr("It is found at %1.").arg(places.online.toString())));
+    });
     QAction *help = menu.addAction(tr("Velvane Help"));
     help->setShortcut(Qt::CTRL | Qt::Key_Question);
-    QObject::connect(help, &QAction::triggered, &window, [&] { open(shell, &window); });
+    QObject::connect(help, &QAction::triggered, page, &HelpPage::open);
 }
 
 } // namespace velvane::HelpCommands

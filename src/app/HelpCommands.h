@@ -10,12 +10,9 @@ namespace velvane {
 /// The menu "Help".
 namespace HelpCommands {
 
-/// Adds "Velvane Help". The shell opens the page and must outlive the menu; that it failed is said
-/// over the window.
+/// Adds "Velvane Help". The shell opens the page and must outlive the window; that it failed is
+/// said over the window.
 void addTo(QMenu &menu, DesktopShell &shell, QWidget &window);
-
-/// Where the documentation stands. The host is chosen when the program is built.
-QUrl documentation();
 
 } // namespace HelpCommands
 

@@ -1,6 +1,5 @@
 #include "app/Documents.h"
 #include "app/EditorWindow.h"
-#include "app/HelpCommands.h"
 #include "app/WindowCommands.h"
 #include "editor/ContentView.h"
 #include "model/ProjectFile.h"
@@ -159,13 +158,6 @@ TEST_F(MenuBarTest, TheHelpMenuHasItsItems)
     EXPECT_EQ(MenuReader(menu("Help")).texts(),
               (QStringList{"Velvane Help", "-", "About Velvane", "Check for Updates…"}));
     EXPECT_EQ(item("Help", "Velvane Help").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Question));
-}
-
-TEST_F(MenuBarTest, VelvaneHelpOpensTheDocumentation)
-{
-    EXPECT_EQ(HelpCommands::documentation().path(), "/apps/velvane/docs.html");
-    item("Help", "Velvane Help").trigger();
-    EXPECT_EQ(desktop.log().value(0), "open " + HelpCommands::documentation().toString());
 }
 
 TEST_F(MenuBarTest, CheckForUpdatesSaysThatNoFeedIsConfigured)

@@ -9,6 +9,7 @@ from pathlib import Path
 
 from accessible import Focus, Node, application, wait_for
 
+NO_SITE = "http://127.0.0.1:9"  # nothing answers there, and at once
 MARGIN = 20  # pixels around the canvas in a window wider than 1200
 
 
@@ -40,6 +41,7 @@ class Editor:
             "LC_ALL": "C.UTF-8",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "VELVANE_SCHEME": scheme,
+            "VELVANE_SITE": NO_SITE,
             **environment,
         }
         Node.scale = float(environment.get("QT_SCALE_FACTOR", 1))

@@ -1,7 +1,11 @@
 #!/usr/bin/python3
 """The menu bar: every item does what it says or is disabled; each window has a bar of its own."""
 
-from fixture import EditorTest, main, move, step
+import os
+import urllib.parse
+from pathlib import Path
+
+from fixture import EditorTest, main, move, step, write_demo
 
 KINDS = {
     "Move to": "1, Move", "Click": "1, Click", "Right-click": "1, Right-click",
@@ -125,19 +129,32 @@ class Items(EditorTest):
         editor.wait_titles("demo")
 
     def test_the_help_menu_tells_versions_updates_and_where_the_help_is(self):
-        editor = self.open(step("click"))
+        # No browser is there to open the help.
+        editor = self.open(step("click"), PATH=str(self.folder))
         editor.choose_item("Help", "About Velvane")
         editor.wait_question("Velvane 0.")
         editor.answer("OK")
         editor.choose_item("Help", "Check for Updates…")
         editor.wait_question("No update feed is configured")
         editor.answer("OK")
-        # No browser is there to open it.
         for ask in (lambda: editor.choose_item("Help", "Velvane Help"),
                     lambda: editor.key("ctrl+question")):
             ask()
             editor.wait_question("The documentation could not be opened.")
             editor.answer("OK")
+
+    def test_without_a_network_the_help_that_came_with_the_program_opens(self):
+        opened = self.folder / "opened"
+        browser = self.folder / "xdg-open"
+        browser.write_text(f'#!/bin/sh\nprintf "%s\\n" "$1" >>"{opened}"\n')
+        browser.chmod(0o755)
+        write_demo(self.demo, step("click"))
+        editor = self.run_editor(PATH=f"{self.folder}:{os.environ['PATH']}")
+        editor.choose_item("Help", "Velvane Help")
+        editor.wait(lambda: opened.exists() and opened.read_text(), "the page to be opened")
+        page = urllib.parse.urlparse(opened.read_text().strip())
+        self.assertEqual(page.scheme, "file")
+        self.assertIn("<title>Velvane Help</title>", Path(page.path).read_text())
 
 
 class TwoWindows(EditorTest):

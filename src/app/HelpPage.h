@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/Seconds.h"
+#include "platform/DesktopShell.h"
+
+#include <QNetworkAccessManager>
+
+namespace velvane {
+
+/// Where the documentation stands.
+struct HelpPlaces {
+    QUrl online;
+    /// A file; empty when none is installed.
+    QString local;
+
+    /// The page on the product's site, whose host is chosen when the program is built and replaced
+    /// by the environment's VELVANE_SITE, and the one installed with the program or beside it.
+    static HelpPlaces usual();
+};
+
+/// Shows the documentation: the page online, or the installed one when that cannot be had. Main
+/// thread only; the shell must outlive it.
+class HelpPage : public QObject {
+    Q_OBJECT
+public:
+    /// `patience`: how long the site may take to answer.
+    HelpPage(DesktopShell &shell, HelpPlaces places, Seconds patience, QObject *parent = nullptr);
+
+    /// Asks the site whether the page is there, and opens what is. While it has not answered
+    /// nothing more is asked.
+    void open();
+
+Q_SIGNALS:
+    /// Nothing here shows either page.
+    void failed();
+
+private:
+    void answered(bool isThere);
+    bool show(const QUrl &page);
+
+    DesktopShell &m_shell;
+    const HelpPlaces m_places;
+    const Seconds m_patience;
+    QNetworkAccessManager m_network;
+    bool m_asking = false;
+};
+
+} // namespace velvane
