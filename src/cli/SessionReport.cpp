@@ -1,5 +1,6 @@
 #include "cli/SessionReport.h"
 
+#include "capture/Bookmark.h"
 #include "media/EncoderInfo.h"
 
 #include <QDir>
@@ -8,7 +9,6 @@
 #include <QImageReader>
 #include <QLocale>
 #include <QRawFont>
-#include <QStandardPaths>
 #include <QStorageInfo>
 
 #include <langinfo.h>
@@ -118,9 +118,7 @@ DesktopFact movieFolder(const QString &folder)
     const QFileInfo place = nearestExisting(folder);
     if (!place.isDir() || !place.isWritable())
         return {"Recordings", QString("%1 cannot be written to").arg(folder),
-                QString("Make %1 a folder that you may write to, or name another folder for videos "
-                        "with xdg-user-dirs-update.")
-                    .arg(place.filePath())};
+                QString("Make %1 a folder that you may write to.").arg(place.filePath())};
     return roomForMovies(folder, QStorageInfo(place.filePath()).bytesAvailable());
 }
 
@@ -144,12 +142,11 @@ std::vector<DesktopFact> sessionReport(Desktop &desktop)
     };
     for (const DesktopFact &fact : desktop.facts())
         report.push_back(fact);
-    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
     for (const DesktopFact &fact : {
              ability("Input posting", desktop.input(), permissions, Permission::accessibility),
              ability("Input listening", desktop.tap(), permissions, Permission::inputMonitoring),
              ability("Screen capture", desktop.capture(), permissions, Permission::screenRecording),
-             movieFolder(movies + "/Velvane"),
+             movieFolder(Bookmark::recordingsFolder()),
              DesktopFact{"H.264 encoder", EncoderInfo::encoder(), {}},
              DesktopFact{"Movie files", EncoderInfo::muxer(), {}},
              captionFont(),
