@@ -1,6 +1,6 @@
 # fish completion for velvane(1)
 
-set -l commands new inspect state frame export convert run doctor
+set -l commands new inspect state frame export convert run record doctor
 
 function __velvane_demos
     __fish_complete_suffix .velvane
@@ -9,6 +9,7 @@ end
 complete -c velvane -f
 complete -c velvane -s h -l help -d 'Explain the program or the subcommand'
 complete -c velvane -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
+complete -c velvane -n "not __fish_seen_subcommand_from $commands" -l new-instance -d 'Open in a process of its own'
 complete -c velvane -n "not __fish_seen_subcommand_from export convert doctor" -a '(__velvane_demos)'
 complete -c velvane -n "__fish_seen_subcommand_from export convert" -F
 
@@ -19,6 +20,7 @@ complete -c velvane -n __fish_use_subcommand -a frame -d 'Render one moment to a
 complete -c velvane -n __fish_use_subcommand -a export -d 'Render a demo to a movie'
 complete -c velvane -n __fish_use_subcommand -a convert -d 'Write a demo in the binary format'
 complete -c velvane -n __fish_use_subcommand -a run -d 'Perform a demo on the real desktop'
+complete -c velvane -n __fish_use_subcommand -a record -d 'Record real actions into a demo'
 complete -c velvane -n __fish_use_subcommand -a doctor -d 'What this session can and cannot do'
 
 complete -c velvane -n "__fish_seen_subcommand_from new" -l force -d 'Replace the file if it exists'
