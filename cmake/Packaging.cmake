@@ -11,7 +11,9 @@ shortcut, wait, switch to another application. Velvane composes such demos
 in an editor that shows the cursor's path over a picture of the screen,
 renders them to H.264 movies, and runs them live on an X11 desktop.")
 set(CPACK_STRIP_FILES ON)
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+# So that what is written while installing has the paths that it will have.
+set(CPACK_SET_DESTDIR ON)
+set(CPACK_INSTALL_PREFIX /usr)
 set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -42,6 +42,12 @@ class Entries(Staged):
         # A window's class tells the desktop whose entry and icon are its.
         self.assertEqual(group["StartupWMClass"], self.program.name)
 
+    def test_the_bus_starts_the_program_that_was_installed(self):
+        path = self.share / "dbus-1" / "services" / f"{APPLICATION}.service"
+        group = entry(path)["D-BUS Service"]
+        self.assertEqual(group["Name"], APPLICATION)
+        self.assertEqual(group["Exec"], f"{self.program} --service")
+
     def test_all_its_actions_are_there(self):
         entries = entry(self.entry_path)
         actions = entries["Desktop Entry"]["Actions"].rstrip(";").split(";")

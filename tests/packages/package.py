@@ -52,6 +52,11 @@ class Package(unittest.TestCase):
         version = re.match(r"velvane \((.*)\)", changelog)[1]
         self.assertEqual(version, self.field("Version"))
 
+    def test_the_bus_starts_its_program(self):
+        services = self.root / "usr" / "share" / "dbus-1" / "services"
+        service, = services.iterdir()
+        self.assertIn("\nExec=/usr/bin/velvane --service\n", service.read_text())
+
     def test_its_program_renders_a_demo_and_finds_its_watchdog(self):
         program = self.root / "usr" / "bin" / "velvane"
         movie = self.folder / "tour.mp4"
