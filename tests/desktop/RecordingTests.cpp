@@ -7,8 +7,11 @@
 #include "support/RunToEnd.h"
 #include "support/TemporaryHome.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QRasterWindow>
+
+#include <list>
 
 namespace velvane {
 
@@ -74,6 +77,30 @@ public:
         wasPainted = true;
     }
     bool wasPainted = false;
+};
+
+/// A server of the test's own, with a client that cannot be taken for the toolkit's, which has the
+/// same number on another server perhaps.
+struct ServerStage {
+    explicit ServerStage(const QStringList &options = {}) : server(options)
+    {
+        do
+            clients.emplace_back(server.display());
+        while (isNumberedLikeToolkit(theirs()));
+    }
+
+    static bool isNumberedLikeToolkit(const X11Connection &connection)
+    {
+        auto *toolkit = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+        return xcb_get_setup(connection.get())->resource_id_base
+               == xcb_get_setup(toolkit->connection())->resource_id_base;
+    }
+    X11Connection &theirs() { return clients.back(); }
+
+    TemporaryHome home;
+    TestServer server;
+    X11Session session{server.display()};
+    std::list<X11Connection> clients;
 };
 
 } // namespace
@@ -175,21 +202,18 @@ TEST_F(RecordingTest, OurWindowsAreInNoPicture)
 
 TEST(RecordingServer, AChangeOfResolutionGoesOnInTheSameMovie)
 {
-    const TemporaryHome home;
-    TestServer server({"-screen", "0", "1280x1024x24", "+extension", "RANDR"});
-    X11Session session(server.display());
-    X11Connection theirs(server.display());
-    BareWindow scene(theirs, QRect(0, 0, 1280, 1024), red);
-    RunRecorder recorder(session.desktop());
+    ServerStage stage({"-screen", "0", "1280x1024x24", "+extension", "RANDR"});
+    BareWindow scene(stage.theirs(), QRect(0, 0, 1280, 1024), red);
+    RunRecorder recorder(stage.session.desktop());
     const QString path = recorder.start(RecordScope::screen, {}, false, false);
     const auto xrandr = [&](const QString &options) {
-        QProcess::execute("xrandr", QStringList{"-d", server.display()} + options.split(' '));
+        QProcess::execute("xrandr", QStringList{"-d", stage.server.display()} + options.split(' '));
     };
     xrandr("--newmode small 40 800 840 968 1056 600 601 605 628");
     xrandr("--addmode screen small");
     xrandr("--output screen --mode small");
     ASSERT_TRUE(eventually([&] {
-        const auto display = session.desktop().screens().primaryDisplay();
+        const auto display = stage.session.desktop().screens().primaryDisplay();
         return display && display->frame.size() == QSizeF(800, 600);
     }));
     scene.paint(QRect(0, 0, 1280, 1024), blue);
@@ -208,25 +232,23 @@ TEST(RecordingServer, AChangeOfResolutionGoesOnInTheSameMovie)
                 shown << i;
         }
     }
-    EXPECT_EQ(shown.value(0), 0);
-    EXPECT_TRUE(shown.contains(1));
-    EXPECT_EQ(shown.last(), 2);
+    // What a growing display uncovers, the server itself paints in the window's own colour.
+    EXPECT_EQ(shown.value(0, -1), 0);
+    shown.removeAll(0);
+    EXPECT_EQ(shown, QList<int>({1, 2}));
 }
 
 TEST(RecordingServer, AServerThatGoesAwayEndsTheRecordingAndKeepsIt)
 {
-    const TemporaryHome home;
-    TestServer server;
-    X11Session session(server.display());
-    X11Connection theirs(server.display());
-    BareWindow scene(theirs, QRect(0, 0, 400, 400), red);
-    RunRecorder recorder(session.desktop());
+    ServerStage stage;
+    BareWindow scene(stage.theirs(), QRect(0, 0, 400, 400), red);
+    RunRecorder recorder(stage.session.desktop());
     QStringList ended;
     QObject::connect(&recorder, &RunRecorder::ended,
                      [&](const QString &reason) { ended << reason; });
     const QString path = recorder.start(RecordScope::screen, {}, true, false);
     QThread::msleep(400);
-    server.stop();
+    stage.server.stop();
     EXPECT_TRUE(eventually([&] { return !ended.isEmpty(); }));
     EXPECT_EQ(ended, QStringList("The X server has gone."));
     runToEnd(recorder.stop());
