@@ -19,6 +19,7 @@ namespace {
 constexpr int panelWidth = 460;
 constexpr int listHeight = 132;
 constexpr int margin = 20;
+constexpr int rowGap = 2;
 
 } // namespace
 
@@ -38,6 +39,7 @@ RestorePanel::RestorePanel(const QList<KeptDemo> &demos, QWidget *over)
     m_list->setAccessibleName(tr("Demos with changes that were not saved"));
     m_list->setToolTip(tr("Check the demos that you mean"));
     m_list->setFixedHeight(listHeight);
+    m_list->setSpacing(rowGap);
     for (const KeptDemo &demo : demos) {
         const QString place =
             demo.path.isEmpty() ? tr("never saved") : RecentDemo{demo.path, {}}.folder();
