@@ -63,10 +63,11 @@ void chooseTools(x264_param_t &param)
 
 void setPace(x264_param_t &param, const H264Encoder::Pace &pace)
 {
-    param.i_fps_num = uint32_t(pace.fps);
+    // Whatever the times are counted in: x264 would keep a picture back to learn how long it shows,
+    // and has no use for that.
+    param.b_vfr_input = 0;
+    param.i_fps_num = param.i_timebase_den = uint32_t(pace.fps);
     param.i_fps_den = param.i_timebase_num = 1;
-    param.b_vfr_input = pace.ticks > 0;
-    param.i_timebase_den = uint32_t(pace.ticks > 0 ? pace.ticks : pace.fps);
     if (pace.keysOnRequest)
         param.i_keyint_max = X264_KEYINT_MAX_INFINITE;
 }

@@ -21,15 +21,13 @@ class H264Encoder {
 public:
     /// How pictures follow one another.
     struct Pace {
-        int fps = 60;  ///< how many a second at most; at least 1
-        int ticks = 0; ///< their times are counted in, per second; 0 for one tick a picture
+        int fps = 60; ///< how many a second at most; at least 1
         /// Is a picture decodable by itself only where that is asked for, instead of now and then?
         bool keysOnRequest = false;
     };
 
     /// `size` in pixels, even.
     H264Encoder(QSize size, const Pace &pace);
-    /// One tick a picture.
     H264Encoder(QSize size, int fps) : H264Encoder(size, Pace{.fps = fps}) {}
     ~H264Encoder();
     Q_DISABLE_COPY_MOVE(H264Encoder)

@@ -42,7 +42,7 @@ public:
     Impl(const QString &path, QSize size)
         : m_size(size)
         , m_converter(size)
-        , m_encoder(size, {.fps = mostPerSecond, .ticks = ticks, .keysOnRequest = true})
+        , m_encoder(size, {.fps = mostPerSecond, .keysOnRequest = true})
         , m_track{size, ticks, m_encoder.configuration()}
         , m_fragments(m_track)
         , m_index(m_track)

@@ -13,10 +13,10 @@ namespace velvane {
 /// Pictures come at uneven times and keep them, to 1 ÷ 60,000 of a second. A picture decodable by
 /// itself comes with the first change that is a second or more after the last such one.
 ///
-/// The file plays whenever its writing breaks off, with the pictures before the last two; finish()
-/// makes a plain movie of it by adding an index, however long it is. Where the index has no room
-/// the file stays as it is. When a picture has no room, append() throws; the file then plays with
-/// those before it.
+/// The file plays whenever its writing breaks off, up to the time of the last picture given;
+/// finish() makes a plain movie of it by adding an index, however long it is. Where the index has
+/// no room the file stays as it is. When a picture has no room, append() throws; the file then
+/// plays with those before it.
 class RecordingWriter final : public MovieWriter {
 public:
     /// Creates the file; one that exists stays, and is an error. `size` in pixels, even. Throws

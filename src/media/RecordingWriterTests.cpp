@@ -97,16 +97,15 @@ TEST_F(RecordingWriterTest, PicturesAtTheFullRateAreRight)
     expectTimes(result, times);
 }
 
-TEST_F(RecordingWriterTest, WhileItIsWrittenItPlaysUpToTheLastPictures)
+TEST_F(RecordingWriterTest, WhileItIsWrittenItPlaysUpToTheLastPicture)
 {
     const std::vector<double> times{0, 0.5, 0.6, 1.5, 2.4, 3.3};
     RecordingWriter writer(path(), {320, 200});
     record(writer, times);
     const MovieResult result = read();
     expectGood(result.quality);
-    ASSERT_GE(result.ticks.size(), times.size() - 2);
-    // The last one in the file shows until the one after it.
-    EXPECT_GE(duration(), 2.4);
+    // The last one in the file shows until the one that is not.
+    expectTimes(result, {times.begin(), times.end() - 1});
     writer.finish();
     expectTimes(read(), times);
 }
