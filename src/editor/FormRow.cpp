@@ -31,7 +31,8 @@ FormRow::FormRow(const QString &label, QWidget *parent)
 void FormRow::setLabelColumn(int width)
 {
     m_label->ensurePolished();
-    const int natural = m_label->sizeHint().width();
+    // Not the label's size hint, which counts the width that was fixed before.
+    const int natural = m_label->fontMetrics().horizontalAdvance(m_label->text());
     const bool fits = natural <= width - textGap;
     m_whole->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_whole->setSpacing(fits ? textGap : 0);

@@ -151,7 +151,8 @@ void StepListPane::setAddMenu(bool menu)
     m_addMenu->setVisible(menu);
     m_recordButton->setIconOnly(false);
     const int labels = m_addMenu->sizeHint().width() + m_recordButton->sizeHint().width();
-    m_recordButton->setIconOnly(menu && labels + 3 * Metrics::gap > Metrics::sidebarMinimum);
+    const int needed = labels + 2 * gridPadding + Metrics::gap;
+    m_recordButton->setIconOnly(menu && needed > Metrics::sidebarMinimum);
     setPadding(m_padding);
 }
 
