@@ -18,6 +18,8 @@ import unittest
 VELVANE = os.path.abspath(sys.argv.pop(1))
 SANITIZED = os.environ.get("VELVANE_SANITIZED") == "1"
 MAX_SECONDS = 5
+# The texts that are looked for below.
+os.environ["LANGUAGE"] = "en"
 MAX_BYTES = 500 * 2**20
 
 
@@ -238,6 +240,46 @@ class CommandLine(unittest.TestCase):
         for arguments in (["inspect"], ["--bogus"], ["state", "x", "--at", "later"],
                           ["state", "x", "--at", "nan"], ["frame", "x"], ["export", "a"]):
             self.assertOneLine(Result(arguments), status=2)
+
+    def test_the_language_is_the_users_or_the_one_asked_for(self):
+        cases = [({"LANGUAGE": "de"}, [], "Eine Demo als Film rendern"),
+                 ({"LANGUAGE": "nl:fr"}, [], "Rendre une démo en film"),
+                 ({"LANGUAGE": "", "LC_ALL": "es_ES.UTF-8"}, [], "Convertir una demo en película"),
+                 ({"LANGUAGE": "de"}, ["--lang", "ja"], "デモをムービーにする"),
+                 ({"LANGUAGE": "de"}, ["--lang=zh_CN"], "将演示渲染为影片"),
+                 ({"LANGUAGE": "de"}, ["--lang", "en"], "Render a demo to a movie")]
+        for environment, arguments, text in cases:
+            result = Result([*arguments, "--help"], env=environment)
+            self.assertEqual((result.status, result.err), (0, ""))
+            self.assertIn(text, result.out)
+
+    def test_an_unknown_language_is_wrong_usage(self):
+        result = Result(["--lang", "tlh", "doctor"])
+        self.assertEqual((result.status, result.out), (2, ""))
+        self.assertIn("there are no texts in “tlh”, only in de, en, es, fr, ja, zh_CN", result.err)
+
+    def test_what_programs_read_is_the_same_in_every_language(self):
+        path = self.write("a.velvane", demo(steps=[
+            {"kind": "wait", "pauseAfter": 1.5, "id": "0123ABCD-0123-ABCD-4567-0123456789AB"}]))
+        for arguments in (["inspect", path, "--json"], ["state", path, "--at", "0.5"]):
+            outputs = [Result(["--lang", code, *arguments]) for code in ("en", "de", "ja")]
+            parsed = [json.loads(result.out) for result in outputs]
+            for found in parsed:
+                if isinstance(found, dict):
+                    for step in found["steps"]:
+                        step.pop("summary")  # a sentence for people
+            self.assertEqual(parsed[0], parsed[1])
+            self.assertEqual(parsed[0], parsed[2])
+        self.assertEqual(Result(["--lang", "de", "new", self.path("de.velvane")]).status, 0)
+        self.assertEqual(Result(["--lang", "en", "new", self.path("en.velvane")]).status, 0)
+        made = []
+        for name in ("de.velvane", "en.velvane"):
+            with open(self.path(name), "rb") as file:
+                root = plistlib.load(file)
+            for step in root["steps"]:
+                step.pop("id")
+            made.append(root)
+        self.assertEqual(made[0], made[1])
 
     def test_any_locale_will_do(self):
         path = self.write("Démo 한.velvane", demo())

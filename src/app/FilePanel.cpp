@@ -11,7 +11,7 @@ namespace velvane::FilePanel {
 
 namespace {
 
-QString text(const char *english)
+QString tr(const char *english)
 {
     return QCoreApplication::translate("FilePanel", english);
 }
@@ -20,7 +20,7 @@ QFileDialog *panel(QWidget *over, const QString &title)
 {
     auto *made = new QFileDialog(over, title);
     made->setAttribute(Qt::WA_DeleteOnClose);
-    made->setNameFilter(text("Velvane demos (*.velvane)"));
+    made->setNameFilter(tr("Velvane demos (*.velvane)"));
     made->setDefaultSuffix(QStringLiteral("velvane"));
     Controls::makeRoom(*made);
     return made;
@@ -36,7 +36,7 @@ QString documents()
 void open(QWidget *over, const QString &folder,
           const std::function<void(const QStringList &)> &then)
 {
-    QFileDialog *dialog = panel(over, text("Open Demo"));
+    QFileDialog *dialog = panel(over, tr("Open Demo"));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     dialog->setDirectory(folder.isEmpty() ? documents() : folder);
     // A panel that closes makes the window below it active; what is opened or raised comes after.
@@ -49,9 +49,9 @@ void open(QWidget *over, const QString &folder,
 
 void save(QWidget *over, const QString &suggested, const std::function<void(const QString &)> &then)
 {
-    QFileDialog *dialog = panel(over, text("Save Demo"));
+    QFileDialog *dialog = panel(over, tr("Save Demo"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setLabelText(QFileDialog::LookIn, text("Save in:"));
+    dialog->setLabelText(QFileDialog::LookIn, tr("Save in:"));
     const QFileInfo file(suggested);
     dialog->setDirectory(file.isAbsolute() ? file.absolutePath() : documents());
     dialog->selectFile(file.isAbsolute() ? file.fileName()

@@ -4,6 +4,7 @@
 #include "app/StartWindow.h"
 #include "app/UpdaterController.h"
 #include "editor/Theme.h"
+#include "language/Languages.h"
 #include "model/DocumentError.h"
 
 #include <QFile>
@@ -91,6 +92,7 @@ std::unique_ptr<QApplication> VelvaneApp::makeApplication(int &argc, char **argv
     const QtMessageHandler usual = qInstallMessageHandler(oneLineWithoutDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(usual);
+    Languages::install();
     return application;
 }
 

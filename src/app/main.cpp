@@ -1,5 +1,6 @@
 #include "app/VelvaneApp.h"
 #include "cli/CommandLine.h"
+#include "language/Languages.h"
 
 #include <QGuiApplication>
 
@@ -23,6 +24,7 @@ int main(int argc, char **argv)
     qInstallMessageHandler(onlyFatal);
     // A file that may not grow is an error to report, as a full disk is.
     std::signal(SIGXFSZ, SIG_IGN);
+    velvane::Languages::choose(velvane::Languages::asked(argc, argv));
     velvane::cli::CommandLine commandLine({.interactive = isatty(STDERR_FILENO) != 0});
     if (const auto status = commandLine.parse(argc, argv))
         return *status;
@@ -43,5 +45,6 @@ int main(int argc, char **argv)
         qunsetenv("QT_QPA_PLATFORM");
     else
         qputenv("QT_QPA_PLATFORM", platform);
+    velvane::Languages::install();
     return commandLine.run();
 }

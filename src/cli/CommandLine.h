@@ -38,6 +38,7 @@ private:
     std::vector<std::string> m_demos;
     bool m_newInstance = false;
     bool m_service = false;
+    std::string m_language;
 };
 
 } // namespace velvane::cli

@@ -1,5 +1,7 @@
 #include "cli/Console.h"
 
+#include "language/Languages.h"
+
 #include <QFile>
 
 namespace velvane::cli {
@@ -17,6 +19,16 @@ std::string printable(const QString &text, qsizetype maxLength)
             character = QChar::ReplacementCharacter;
     }
     return line.toStdString();
+}
+
+QString tr(const char *english)
+{
+    return Languages::text(english);
+}
+
+std::string help(const char *english)
+{
+    return tr(english).toStdString();
 }
 
 QString fileName(const std::string &argument)

@@ -25,6 +25,11 @@ public:
 /// file holds may be anything.
 std::string printable(const QString &text, qsizetype maxLength = 300);
 
+/// A text in the user's language.
+QString tr(const char *english);
+/// The same as the parser takes it.
+std::string help(const char *english);
+
 /// A file name as the shell gave it. Call after the application object exists.
 QString fileName(const std::string &argument);
 

@@ -23,18 +23,18 @@ int convert(const Options &options)
 void addConvert(CLI::App &app, Console &, Action &chosen)
 {
     const auto options = std::make_shared<Options>();
-    CLI::App *command =
-        app.add_subcommand("convert", "Write a demo in the binary format, from binary or XML");
-    command->add_option("IN", options->in, "The demo to read")->required();
-    command->add_option("OUT", options->out, "The file to write; an existing one is replaced")
+    CLI::App *command = app.add_subcommand(
+        "convert", help("Write a demo in the binary format, from binary or XML"));
+    command->add_option("IN", options->in, help("The demo to read"))->required();
+    command->add_option("OUT", options->out, help("The file to write; an existing one is replaced"))
         ->required();
-    command->footer(R"(DESCRIPTION
+    command->footer(help(R"(DESCRIPTION
   Read a demo, as a binary or an XML property list, and write it in the
   binary format. Keys that no demo has are left out. OUT is written whole or
   not at all, so it may be IN.
 
 EXAMPLE
-  velvane convert tour.xml tour.velvane)");
+  velvane convert tour.xml tour.velvane)"));
     command->callback([&chosen, options] { chosen = [options] { return convert(*options); }; });
 }
 

@@ -4,8 +4,6 @@
 #include "model/StepList.h"
 #include "timeline/Timeline.h"
 
-#include <iomanip>
-
 namespace velvane::cli {
 
 namespace {
@@ -83,21 +81,20 @@ void printRow(std::ostream &out, const QString &number, const QString &what, con
 
 void printSettings(const Project &project, Seconds total, std::ostream &out)
 {
-    const auto setting = [&out](const char *name, const QString &value) {
-        out << std::left << std::setw(11) << name << value.toStdString() << '\n';
+    const auto setting = [&out](const QString &name, const QString &value) {
+        out << QString(name + u' ').leftJustified(11).toStdString() << value.toStdString() << '\n';
     };
     const QSizeF canvas = project.canvasSize();
     const QPointF start = project.startPoint();
     const QImage &picture = project.background();
-    setting("Canvas", QString("%1 × %2").arg(plain(canvas.width()), plain(canvas.height())));
-    setting("Rate", QString("%1 frames per second").arg(project.fps()));
-    setting("Start", QString("(%1, %2)").arg(plain(start.x()), plain(start.y())));
-    setting("Backdrop",
-            picture.isNull()
-                ? QString("none")
-                : QString("picture of %1 × %2").arg(picture.width()).arg(picture.height()));
-    setting("Recording", project.recordingBookmark() ? "yes" : "none");
-    setting("Total", seconds(total) + " s\n");
+    setting(tr("Canvas"), QString("%1 × %2").arg(plain(canvas.width()), plain(canvas.height())));
+    setting(tr("Rate"), tr("%1 frames per second").arg(project.fps()));
+    setting(tr("Start"), QString("(%1, %2)").arg(plain(start.x()), plain(start.y())));
+    setting(tr("Backdrop"),
+            picture.isNull() ? tr("none")
+                             : tr("picture of %1 × %2").arg(picture.width()).arg(picture.height()));
+    setting(tr("Recording"), project.recordingBookmark() ? tr("yes") : tr("none"));
+    setting(tr("Total"), seconds(total) + " s\n");
 }
 
 QString timesOf(const ResolvedStep &segment)
@@ -129,9 +126,9 @@ void printDemoTable(const DemoDocument &demo, std::ostream &out)
     const Project &project = demo.project();
     const Timeline timeline(project.snapshot());
     printSettings(project, timeline.total(), out);
-    printRow(out, "", "Step",
-             QString("Start").rightJustified(9) + QString("End").rightJustified(9)
-                 + QString("Action").rightJustified(9) + QString("Pause").rightJustified(9));
+    printRow(out, "", tr("Step"),
+             tr("Start").rightJustified(9) + tr("End").rightJustified(9)
+                 + tr("Action").rightJustified(9) + tr("Pause").rightJustified(9));
     const auto numbers = StepList::displayNumbers(project.steps());
     auto segment = timeline.steps().begin();
     for (qsizetype i = 0; i < project.steps().size(); ++i) {

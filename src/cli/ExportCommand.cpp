@@ -25,7 +25,7 @@ struct Options {
 
 void render(const Snapshot &snap, const QString &path, Console &console, const Interrupt &interrupt)
 {
-    ProgressBar bar(console.err, console.interactive, Exporter::frameCount(snap), "frames");
+    ProgressBar bar(console.err, console.interactive, Exporter::frameCount(snap), help("frames"));
     QElapsedTimer clock;
     clock.start();
     const auto progress = [&bar, &clock](double fraction) {
@@ -37,7 +37,7 @@ void render(const Snapshot &snap, const QString &path, Console &console, const I
 
 QString reasonLine(const QString &description, const QString &reason, bool verbose)
 {
-    QString line = "Export failed: " + description;
+    QString line = tr("Export failed: %1").arg(description);
     if (!verbose || reason.isEmpty())
         return line;
     return line + '\n' + QString::fromStdString(printable(reason));
@@ -48,20 +48,20 @@ int exportMovie(const Options &options, Console &console)
     const DemoDocument demo = readDemo(options.demo);
     const QString path = fileName(options.movie);
     if (FileStamp::isSameFile(path, fileName(options.demo)))
-        throw CommandError(path + ": the movie would replace the demo");
+        throw CommandError(tr("%1: the movie would replace the demo").arg(path));
     const QString name = QFileInfo(path).fileName();
     const Interrupt interrupt;
     try {
         render(demo.project().snapshot(), path, console, interrupt);
     } catch (const ExportCancelled &) {
-        console.err << "Export cancelled; " << printable(name) << " holds what was done.\n";
+        console.err << printable(tr("Export cancelled; %1 holds what was done.").arg(name)) << '\n';
         return interrupt.exitStatus();
     } catch (const ExportError &error) {
         throw CommandError(reasonLine(error.description(), error.reason(), options.verbose));
     } catch (const MovieError &error) {
         throw CommandError(reasonLine(error.reason(), {}, false));
     }
-    console.out << "Exported to " << printable(name) << ".\n";
+    console.out << printable(tr("Exported to %1.").arg(name)) << '\n';
     return 0;
 }
 
@@ -70,12 +70,12 @@ int exportMovie(const Options &options, Console &console)
 void addExport(CLI::App &app, Console &console, Action &chosen)
 {
     const auto options = std::make_shared<Options>();
-    CLI::App *command = app.add_subcommand("export", "Render a demo to a movie");
-    command->add_option("DEMO", options->demo, "The demo to render")->required();
-    command->add_option("MP4", options->movie, "The movie to write")->required();
+    CLI::App *command = app.add_subcommand("export", help("Render a demo to a movie"));
+    command->add_option("DEMO", options->demo, help("The demo to render"))->required();
+    command->add_option("MP4", options->movie, help("The movie to write"))->required();
     command->add_flag("--verbose", options->verbose,
-                      "When the export fails, print the reason on a second line");
-    command->footer(R"(DESCRIPTION
+                      help("When the export fails, print the reason on a second line"));
+    command->footer(help(R"(DESCRIPTION
   Render a demo to an H.264 movie in an MPEG-4 file, of the canvas's size and
   the demo's frame rate. A file at MP4 is replaced. Progress goes to standard
   error: a bar on a terminal, otherwise a line for every tenth.
@@ -84,7 +84,7 @@ void addExport(CLI::App &app, Console &console, Action &chosen)
   ends with exit status 130.
 
 EXAMPLE
-  velvane export tour.velvane tour.mp4)");
+  velvane export tour.velvane tour.mp4)"));
     command->callback([&chosen, &console, options] {
         chosen = [&console, options] { return exportMovie(*options, console); };
     });

@@ -57,11 +57,11 @@ int renderFrame(const Options &options)
     const DemoDocument demo = readDemo(options.demo);
     const QString path = fileName(options.output);
     if (FileStamp::isSameFile(path, fileName(options.demo)))
-        throw CommandError(path + ": the picture would replace the demo");
+        throw CommandError(tr("%1: the picture would replace the demo").arg(path));
     const Snapshot snap = demo.project().snapshot();
     const QImage frame = FrameRenderer::image(snap, Timeline(snap).state(Seconds(options.at)));
     if (frame.isNull())
-        throw CommandError(QString("%1: a canvas of %2 × %3 cannot be drawn")
+        throw CommandError(tr("%1: a canvas of %2 × %3 cannot be drawn")
                                .arg(fileName(options.demo))
                                .arg(snap.canvasSize.width())
                                .arg(snap.canvasSize.height()));
@@ -74,26 +74,27 @@ int renderFrame(const Options &options)
 void addFrame(CLI::App &app, Console &, Action &chosen)
 {
     const auto options = std::make_shared<Options>();
-    CLI::App *command = app.add_subcommand("frame", "Render one moment of a demo to a picture");
-    command->add_option("DEMO", options->demo, "The demo")->required();
-    command->add_option("--at", options->at, "The moment in seconds")
+    CLI::App *command =
+        app.add_subcommand("frame", help("Render one moment of a demo to a picture"));
+    command->add_option("DEMO", options->demo, help("The demo"))->required();
+    command->add_option("--at", options->at, help("The moment in seconds"))
         ->required()
         ->type_name("T")
         ->check(isFinite());
-    command->add_option("--output,-o", options->output, "The picture to write")
+    command->add_option("--output,-o", options->output, help("The picture to write"))
         ->required()
         ->type_name("PNG");
-    command->add_option("--size", options->size, "Make it no wider and no higher than this")
+    command->add_option("--size", options->size, help("Make it no wider and no higher than this"))
         ->type_name("PIXELS")
         ->check(CLI::Range(1, largestSize));
-    command->footer(R"(DESCRIPTION
+    command->footer(help(R"(DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
   last instant. With --size, a larger picture is scaled down.
 
 EXAMPLES
   velvane frame tour.velvane --at 2.5 --output still.png
-  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png)");
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png)"));
     command->callback([&chosen, options] { chosen = [options] { return renderFrame(*options); }; });
 }
 

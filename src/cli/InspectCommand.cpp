@@ -28,10 +28,11 @@ int inspect(const Options &options, Console &console)
 void addInspect(CLI::App &app, Console &console, Action &chosen)
 {
     const auto options = std::make_shared<Options>();
-    CLI::App *command = app.add_subcommand("inspect", "Show what a demo holds and when it happens");
-    command->add_option("DEMO", options->demo, "The demo to show")->required();
-    command->add_flag("--json", options->json, "Print one JSON object instead of a table");
-    command->footer(R"(DESCRIPTION
+    CLI::App *command =
+        app.add_subcommand("inspect", help("Show what a demo holds and when it happens"));
+    command->add_option("DEMO", options->demo, help("The demo to show"))->required();
+    command->add_flag("--json", options->json, help("Print one JSON object instead of a table"));
+    command->footer(help(R"(DESCRIPTION
   Show a demo: its settings, its steps as the step list has them, and when
   each begins and ends. Times are seconds.
 
@@ -45,7 +46,7 @@ JSON
   endPos, heldEntering.
 
 EXAMPLE
-  velvane inspect tour.velvane --json | jq .total)");
+  velvane inspect tour.velvane --json | jq .total)"));
     command->callback([&chosen, &console, options] {
         chosen = [&console, options] { return inspect(*options, console); };
     });

@@ -1,5 +1,7 @@
 #include "cli/ProgressBar.h"
 
+#include "cli/Console.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -66,7 +68,9 @@ void ProgressBar::drawBar(double fraction, Seconds elapsed)
     const Seconds left = fraction > 0 ? elapsed * (1 - fraction) / fraction : 0s;
     std::string text =
         formatted(" %3d %%  %.0f %s/s  ", static_cast<int>(fraction * 100), rate, m_unit.c_str());
-    text += fraction < 1 ? readable(left) + " left" : "in " + readable(elapsed);
+    text += (fraction < 1 ? tr("%1 left").arg(QString::fromStdString(readable(left)))
+                          : tr("in %1").arg(QString::fromStdString(readable(elapsed))))
+                .toStdString();
     // Blanks cover what a longer line left behind.
     const std::size_t width = text.size();
     if (width < m_width)

@@ -35,18 +35,19 @@ int run(const Options &options, Console &console)
 void addRun(CLI::App &app, Console &console, Action &chosen)
 {
     const auto options = std::make_shared<Options>();
-    CLI::App *command = app.add_subcommand("run", "Perform a demo on the real desktop");
-    command->add_option("DEMO", options->demo, "The demo to perform")->required();
-    command->add_option("--from", options->from, "Begin with this step: an id or a number")
+    CLI::App *command = app.add_subcommand("run", help("Perform a demo on the real desktop"));
+    command->add_option("DEMO", options->demo, help("The demo to perform"))->required();
+    command->add_option("--from", options->from, help("Begin with this step: an id or a number"))
         ->type_name("STEP");
     command->add_flag("--hide-others", options->hideOthers,
-                      "When switching to an application, hide all others");
-    command->add_option("--record", options->record, "Record: off, screen or window")
+                      help("When switching to an application, hide all others"));
+    command->add_option("--record", options->record, help("Record: off, screen or window"))
         ->type_name("MODE")
         ->check(CLI::IsMember({"off", "screen", "window"}));
-    command->add_flag("--no-cursor", options->noCursor, "Leave the pointer out of the recording");
-    command->add_flag("--no-countdown", options->noCountdown, "Begin at once");
-    command->footer(R"(DESCRIPTION
+    command->add_flag("--no-cursor", options->noCursor,
+                      help("Leave the pointer out of the recording"));
+    command->add_flag("--no-countdown", options->noCountdown, help("Begin at once"));
+    command->footer(help(R"(DESCRIPTION
   Perform a demo's steps with the real mouse and keyboard, after a countdown of
   2.4 seconds. Esc stops it, whatever has the keyboard; so do Ctrl-C and
   SIGTERM. Nothing is left pressed.
@@ -62,7 +63,7 @@ void addRun(CLI::App &app, Console &console, Action &chosen)
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE
-  velvane run tour.velvane --from 4 --hide-others)");
+  velvane run tour.velvane --from 4 --hide-others)"));
     command->callback([&chosen, &console, options] {
         chosen = [&console, options] { return run(*options, console); };
     });

@@ -47,26 +47,29 @@ int printStates(const Options &options, Console &console)
 void addState(CLI::App &app, Console &console, Action &chosen)
 {
     const auto options = std::make_shared<Options>();
-    CLI::App *command = app.add_subcommand("state", "Show what a demo shows at given moments");
-    command->add_option("DEMO", options->demo, "The demo")->required();
-    command->add_option("--at", options->at, "A moment in seconds; may be given several times")
+    CLI::App *command =
+        app.add_subcommand("state", help("Show what a demo shows at given moments"));
+    command->add_option("DEMO", options->demo, help("The demo"))->required();
+    command
+        ->add_option("--at", options->at, help("A moment in seconds; may be given several times"))
         ->required()
         ->allow_extra_args(false)
         ->type_name("T")
         ->check(isFinite());
     command
-        ->add_option("--video-duration", options->videoDuration,
-                     "Length in seconds of the movie recorded with the steps; gives videoTime")
+        ->add_option(
+            "--video-duration", options->videoDuration,
+            help("Length in seconds of the movie recorded with the steps; gives videoTime"))
         ->type_name("D")
         ->check(isFinite());
-    command->footer(R"(DESCRIPTION
+    command->footer(help(R"(DESCRIPTION
   Print what a demo shows at given moments, as a JSON array with an object
   for each moment: time, cursor [x, y], ripple or null, press, held, caption or
   null, videoTime or null. Moments outside the demo show its first or its last
   instant.
 
 EXAMPLE
-  velvane state tour.velvane --at 0 --at 2.5)");
+  velvane state tour.velvane --at 0 --at 2.5)"));
     command->callback([&chosen, &console, options] {
         chosen = [&console, options] { return printStates(*options, console); };
     });

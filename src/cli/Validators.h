@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/Console.h"
+
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -13,7 +15,10 @@ inline CLI::Validator isFinite()
         [](const std::string &text) {
             double number = 0;
             const bool ok = CLI::detail::lexical_cast(text, number) && std::isfinite(number);
-            return ok ? std::string() : "“" + text + "” is not a finite number";
+            return ok ? std::string()
+                      : tr("“%1” is not a finite number")
+                            .arg(QString::fromStdString(text))
+                            .toStdString();
         },
         "");
 }

@@ -35,7 +35,8 @@ Step Step::withDefaults(StepKind kind, QSizeF canvasSize)
     case StepKind::shortcut:
         break;
     case StepKind::type:
-        step.text = translated("Type here");
+        // What files hold does not depend on the language of who makes them.
+        step.text = QStringLiteral("Type here");
         step.duration = 1.6s;
         break;
     case StepKind::wait:
@@ -46,7 +47,7 @@ Step Step::withDefaults(StepKind kind, QSizeF canvasSize)
         step.pauseAfter = 0.8s;
         break;
     case StepKind::section:
-        step.text = translated("Section");
+        step.text = QStringLiteral("Section");
         step.pauseAfter = 0s;
         break;
     }
