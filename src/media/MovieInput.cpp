@@ -1,5 +1,6 @@
 #include "media/MovieInput.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -101,7 +102,7 @@ std::unique_ptr<MovieInput> MovieInput::open(const QString &path, const CancelCh
     if (error.isEmpty()) {
         input->findDuration();
         if (!(input->m_duration > Seconds(0)))
-            error = QStringLiteral("The movie has no duration.");
+            error = QCoreApplication::translate("MovieInput", "The movie has no duration.");
     }
     if (input->isCancelled())
         error = reasonOf(AVERROR_EXIT);
@@ -129,7 +130,7 @@ QString MovieInput::openFile(const QString &path)
     if (m_file < 0 || ::fstat(m_file, &about) != 0)
         return qt_error_string(errno);
     if (!S_ISREG(about.st_mode))
-        return QStringLiteral("Not a regular file.");
+        return QCoreApplication::translate("MovieInput", "Not a regular file.");
     return {};
 }
 
@@ -178,13 +179,13 @@ QString MovieInput::findTrack()
             stream->discard = AVDISCARD_ALL;
     }
     if (!m_track)
-        return QStringLiteral("The file holds no pictures.");
+        return QCoreApplication::translate("MovieInput", "The file holds no pictures.");
     if (isEncrypted(*m_track))
-        return QStringLiteral("The movie is encrypted.");
+        return QCoreApplication::translate("MovieInput", "The movie is encrypted.");
     const QSize size = shape().size;
     if (size.isEmpty() || std::max(size.width(), size.height()) > greatestSide
         || qint64(size.width()) * size.height() > greatestArea)
-        return QStringLiteral("No movie can have this size.");
+        return QCoreApplication::translate("MovieInput", "No movie can have this size.");
     return {};
 }
 

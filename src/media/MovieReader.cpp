@@ -1,5 +1,7 @@
 #include "media/MovieReader.h"
 
+#include <QCoreApplication>
+
 namespace velvane {
 
 namespace {
@@ -23,7 +25,8 @@ MovieOpening MovieReader::open(const QString &path, const CancelCheck &shouldCan
     if (reader->picture(Seconds(0), shouldCancel))
         opening.reader = std::move(reader);
     else
-        opening.error = QStringLiteral("The movie has no picture that can be decoded.");
+        opening.error = QCoreApplication::translate(
+            "MovieReader", "The movie has no picture that can be decoded.");
     return opening;
 }
 

@@ -2,6 +2,8 @@
 
 #include "media/ColorConversion.h"
 
+#include <QCoreApplication>
+
 #include <thread>
 
 extern "C" {
@@ -38,7 +40,7 @@ std::unique_ptr<PictureDecoder> PictureDecoder::open(const AVCodecParameters &tr
     const AVCodec *codec = avcodec_find_decoder(track.codec_id);
     AVCodecContext *context = codec ? avcodec_alloc_context3(codec) : nullptr;
     if (!context) {
-        error = QStringLiteral("Nothing here decodes %1.")
+        error = QCoreApplication::translate("PictureDecoder", "Nothing here decodes %1.")
                     .arg(QString::fromUtf8(avcodec_get_name(track.codec_id)));
         return nullptr;
     }
@@ -47,7 +49,8 @@ std::unique_ptr<PictureDecoder> PictureDecoder::open(const AVCodecParameters &tr
     context->thread_count = std::clamp(int(std::thread::hardware_concurrency()), 1, mostThreads);
     if (avcodec_parameters_to_context(context, &track) < 0
         || avcodec_open2(context, codec, nullptr) < 0) {
-        error = QStringLiteral("The movie's pictures cannot be decoded.");
+        error = QCoreApplication::translate("PictureDecoder",
+                                            "The movie's pictures cannot be decoded.");
         return nullptr;
     }
     return decoder;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <stdexcept>
@@ -20,7 +21,8 @@ public:
     QString reason() const { return QString::fromStdString(what()); }
     QString description() const
     {
-        return QStringLiteral(
+        return QCoreApplication::translate(
+                   "ExportError",
                    "The operation couldn’t be completed. (Velvane.ExportError error %1.)")
             .arg(static_cast<int>(m_kind));
     }
