@@ -587,6 +587,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Export abgebrochen.</translation>
     </message>
     <message>
+        <source>The operation couldn’t be completed. (Velvane.ExportError error %1.)</source>
+        <extracomment>ExportError</extracomment>
+        <translation>Der Vorgang konnte nicht abgeschlossen werden. (Velvane.ExportError Fehler %1.)</translation>
+    </message>
+    <message>
         <source>Export to Video</source>
         <extracomment>ExportPanel</extracomment>
         <translation>Als Video exportieren</translation>
@@ -802,6 +807,36 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Live-Lauf angehalten: Der Bildschirm ist nicht mehr da.</translation>
     </message>
     <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Der Film hat keine Dauer.</translation>
+    </message>
+    <message>
+        <source>Not a regular file.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file holds no pictures.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Die Datei enthält keine Bilder.</translation>
+    </message>
+    <message>
+        <source>The movie is encrypted.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Der Film ist verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>No movie can have this size.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Kein Film kann diese Größe haben.</translation>
+    </message>
+    <message>
+        <source>The movie has no picture that can be decoded.</source>
+        <extracomment>MovieReader</extracomment>
+        <translation>Der Film hat kein Bild, das sich dekodieren lässt.</translation>
+    </message>
+    <message>
         <source>↑ and ↓ change it by 0.1 s; with Shift, or Page Up and Page Down, by 1 s.</source>
         <extracomment>NumberField</extracomment>
         <translation>↑ und ↓ ändern um 0,1 s; mit Umschalt oder Bild auf und ab um 1 s.</translation>
@@ -815,6 +850,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>This version of Velvane cannot pick locations yet.</source>
         <extracomment>PickLocationController</extracomment>
         <translation>Diese Version von Velvane kann noch keine Orte wählen.</translation>
+    </message>
+    <message>
+        <source>Nothing here decodes %1.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>Nichts hier dekodiert %1.</translation>
+    </message>
+    <message>
+        <source>The movie's pictures cannot be decoded.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>Die Bilder des Films lassen sich nicht dekodieren.</translation>
     </message>
     <message>
         <source>Step %1, %2</source>
@@ -865,6 +910,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Yesterday</source>
         <extracomment>RecentDemoDelegate</extracomment>
         <translation>Gestern</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>d. MMMM</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>d. MMMM yyyy</translation>
     </message>
     <message>
         <source>This version of Velvane cannot record actions yet.</source>
@@ -1520,6 +1575,21 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>without a name</source>
         <extracomment>X11WindowManager</extracomment>
         <translation>ohne Namen</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>std</extracomment>
+        <translation>%1 Std. %2 min</translation>
     </message>
     <message>
         <source>About Velvane</source>

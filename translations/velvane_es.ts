@@ -587,6 +587,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Exportación cancelada.</translation>
     </message>
     <message>
+        <source>The operation couldn’t be completed. (Velvane.ExportError error %1.)</source>
+        <extracomment>ExportError</extracomment>
+        <translation>No se pudo completar la operación. (Velvane.ExportError error %1.)</translation>
+    </message>
+    <message>
         <source>Export to Video</source>
         <extracomment>ExportPanel</extracomment>
         <translation>Exportar a vídeo</translation>
@@ -802,6 +807,36 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Ejecución en vivo detenida: la pantalla ha desaparecido.</translation>
     </message>
     <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>La película no tiene duración.</translation>
+    </message>
+    <message>
+        <source>Not a regular file.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>The file holds no pictures.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>El archivo no contiene imágenes.</translation>
+    </message>
+    <message>
+        <source>The movie is encrypted.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>La película está cifrada.</translation>
+    </message>
+    <message>
+        <source>No movie can have this size.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Ninguna película puede tener este tamaño.</translation>
+    </message>
+    <message>
+        <source>The movie has no picture that can be decoded.</source>
+        <extracomment>MovieReader</extracomment>
+        <translation>La película no tiene ninguna imagen que se pueda descodificar.</translation>
+    </message>
+    <message>
         <source>↑ and ↓ change it by 0.1 s; with Shift, or Page Up and Page Down, by 1 s.</source>
         <extracomment>NumberField</extracomment>
         <translation>↑ y ↓ lo cambian en 0,1 s; con Mayús, o con Re Pág y Av Pág, en 1 s.</translation>
@@ -815,6 +850,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>This version of Velvane cannot pick locations yet.</source>
         <extracomment>PickLocationController</extracomment>
         <translation>Esta versión de Velvane aún no puede elegir posiciones.</translation>
+    </message>
+    <message>
+        <source>Nothing here decodes %1.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>Nada aquí descodifica %1.</translation>
+    </message>
+    <message>
+        <source>The movie's pictures cannot be decoded.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>No se pueden descodificar las imágenes de la película.</translation>
     </message>
     <message>
         <source>Step %1, %2</source>
@@ -865,6 +910,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Yesterday</source>
         <extracomment>RecentDemoDelegate</extracomment>
         <translation>Ayer</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>d 'de' MMMM</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>d 'de' MMMM 'de' yyyy</translation>
     </message>
     <message>
         <source>This version of Velvane cannot record actions yet.</source>
@@ -1520,6 +1575,21 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>without a name</source>
         <extracomment>X11WindowManager</extracomment>
         <translation>sin nombre</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>std</extracomment>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>About Velvane</source>

@@ -587,6 +587,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Exportation annulée.</translation>
     </message>
     <message>
+        <source>The operation couldn’t be completed. (Velvane.ExportError error %1.)</source>
+        <extracomment>ExportError</extracomment>
+        <translation>L’opération n’a pas pu s’achever. (Velvane.ExportError erreur %1.)</translation>
+    </message>
+    <message>
         <source>Export to Video</source>
         <extracomment>ExportPanel</extracomment>
         <translation>Exporter en vidéo</translation>
@@ -802,6 +807,36 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Exécution en direct arrêtée : l’écran a disparu.</translation>
     </message>
     <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Le film n’a pas de durée.</translation>
+    </message>
+    <message>
+        <source>Not a regular file.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>The file holds no pictures.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Le fichier ne contient pas d’images.</translation>
+    </message>
+    <message>
+        <source>The movie is encrypted.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Le film est chiffré.</translation>
+    </message>
+    <message>
+        <source>No movie can have this size.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Aucun film ne peut avoir cette taille.</translation>
+    </message>
+    <message>
+        <source>The movie has no picture that can be decoded.</source>
+        <extracomment>MovieReader</extracomment>
+        <translation>Le film n’a aucune image décodable.</translation>
+    </message>
+    <message>
         <source>↑ and ↓ change it by 0.1 s; with Shift, or Page Up and Page Down, by 1 s.</source>
         <extracomment>NumberField</extracomment>
         <translation>↑ et ↓ modifient de 0,1 s ; avec Maj, ou avec Page préc. et suiv., de 1 s.</translation>
@@ -815,6 +850,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>This version of Velvane cannot pick locations yet.</source>
         <extracomment>PickLocationController</extracomment>
         <translation>Cette version de Velvane ne sait pas encore relever de position.</translation>
+    </message>
+    <message>
+        <source>Nothing here decodes %1.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>Rien ici ne décode %1.</translation>
+    </message>
+    <message>
+        <source>The movie's pictures cannot be decoded.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>Les images du film ne peuvent pas être décodées.</translation>
     </message>
     <message>
         <source>Step %1, %2</source>
@@ -865,6 +910,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Yesterday</source>
         <extracomment>RecentDemoDelegate</extracomment>
         <translation>Hier</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>d MMMM yyyy</translation>
     </message>
     <message>
         <source>This version of Velvane cannot record actions yet.</source>
@@ -1520,6 +1575,21 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>without a name</source>
         <extracomment>X11WindowManager</extracomment>
         <translation>sans nom</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>std</extracomment>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>About Velvane</source>

@@ -587,6 +587,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>書き出しをキャンセルしました。</translation>
     </message>
     <message>
+        <source>The operation couldn’t be completed. (Velvane.ExportError error %1.)</source>
+        <extracomment>ExportError</extracomment>
+        <translation>操作を完了できませんでした。(Velvane.ExportErrorエラー%1)</translation>
+    </message>
+    <message>
         <source>Export to Video</source>
         <extracomment>ExportPanel</extracomment>
         <translation>ビデオに書き出す</translation>
@@ -802,6 +807,36 @@ Results go to standard output, messages and progress to standard error.
         <translation>ライブ実行を停止しました: ディスプレイがなくなりました。</translation>
     </message>
     <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>ムービーに長さがありません。</translation>
+    </message>
+    <message>
+        <source>Not a regular file.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file holds no pictures.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>ファイルに映像がありません。</translation>
+    </message>
+    <message>
+        <source>The movie is encrypted.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>ムービーは暗号化されています。</translation>
+    </message>
+    <message>
+        <source>No movie can have this size.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>この大きさのムービーはありえません。</translation>
+    </message>
+    <message>
+        <source>The movie has no picture that can be decoded.</source>
+        <extracomment>MovieReader</extracomment>
+        <translation>ムービーにデコードできる映像がありません。</translation>
+    </message>
+    <message>
         <source>↑ and ↓ change it by 0.1 s; with Shift, or Page Up and Page Down, by 1 s.</source>
         <extracomment>NumberField</extracomment>
         <translation>↑と↓で0.1秒、Shiftまたは Page Up / Page Down で1秒ずつ変更します。</translation>
@@ -815,6 +850,16 @@ Results go to standard output, messages and progress to standard error.
         <source>This version of Velvane cannot pick locations yet.</source>
         <extracomment>PickLocationController</extracomment>
         <translation>このバージョンのVelvaneはまだ位置を選べません。</translation>
+    </message>
+    <message>
+        <source>Nothing here decodes %1.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>ここには%1をデコードできるものがありません。</translation>
+    </message>
+    <message>
+        <source>The movie's pictures cannot be decoded.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>ムービーの映像をデコードできません。</translation>
     </message>
     <message>
         <source>Step %1, %2</source>
@@ -865,6 +910,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Yesterday</source>
         <extracomment>RecentDemoDelegate</extracomment>
         <translation>昨日</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>yyyy年M月d日</translation>
     </message>
     <message>
         <source>This version of Velvane cannot record actions yet.</source>
@@ -1520,6 +1575,21 @@ Results go to standard output, messages and progress to standard error.
         <source>without a name</source>
         <extracomment>X11WindowManager</extracomment>
         <translation>名前なし</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1秒</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1分%2秒</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>std</extracomment>
+        <translation>%1時間%2分</translation>
     </message>
     <message>
         <source>About Velvane</source>

@@ -586,6 +586,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>已取消导出。</translation>
     </message>
     <message>
+        <source>The operation couldn’t be completed. (Velvane.ExportError error %1.)</source>
+        <extracomment>ExportError</extracomment>
+        <translation>无法完成操作。（Velvane.ExportError 错误 %1）</translation>
+    </message>
+    <message>
         <source>Export to Video</source>
         <extracomment>ExportPanel</extracomment>
         <translation>导出为视频</translation>
@@ -801,6 +806,36 @@ Results go to standard output, messages and progress to standard error.
         <translation>实时运行已停止：显示器已断开。</translation>
     </message>
     <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>影片没有时长。</translation>
+    </message>
+    <message>
+        <source>Not a regular file.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The file holds no pictures.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>文件不含画面。</translation>
+    </message>
+    <message>
+        <source>The movie is encrypted.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>影片已加密。</translation>
+    </message>
+    <message>
+        <source>No movie can have this size.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>影片不可能有此尺寸。</translation>
+    </message>
+    <message>
+        <source>The movie has no picture that can be decoded.</source>
+        <extracomment>MovieReader</extracomment>
+        <translation>影片没有可解码的画面。</translation>
+    </message>
+    <message>
         <source>↑ and ↓ change it by 0.1 s; with Shift, or Page Up and Page Down, by 1 s.</source>
         <extracomment>NumberField</extracomment>
         <translation>↑ 和 ↓ 每次更改 0.1 秒；按住 Shift 或用 Page Up 和 Page Down 每次更改 1 秒。</translation>
@@ -814,6 +849,16 @@ Results go to standard output, messages and progress to standard error.
         <source>This version of Velvane cannot pick locations yet.</source>
         <extracomment>PickLocationController</extracomment>
         <translation>此版本的 Velvane 尚不能选取位置。</translation>
+    </message>
+    <message>
+        <source>Nothing here decodes %1.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>此处没有可解码 %1 的程序。</translation>
+    </message>
+    <message>
+        <source>The movie's pictures cannot be decoded.</source>
+        <extracomment>PictureDecoder</extracomment>
+        <translation>无法解码影片的画面。</translation>
     </message>
     <message>
         <source>Step %1, %2</source>
@@ -864,6 +909,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Yesterday</source>
         <extracomment>RecentDemoDelegate</extracomment>
         <translation>昨天</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>RecentDemoDelegate</extracomment>
+        <translation>yyyy年M月d日</translation>
     </message>
     <message>
         <source>This version of Velvane cannot record actions yet.</source>
@@ -1519,6 +1574,21 @@ Results go to standard output, messages and progress to standard error.
         <source>without a name</source>
         <extracomment>X11WindowManager</extracomment>
         <translation>无名称</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <extracomment>std</extracomment>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>std</extracomment>
+        <translation>%1 小时 %2 分</translation>
     </message>
     <message>
         <source>About Velvane</source>

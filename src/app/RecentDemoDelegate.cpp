@@ -37,8 +37,8 @@ QString RecentDemoDelegate::moment(const QDateTime &used, const QDateTime &now)
     if (used.date() == now.date().addDays(-1))
         return tr("Yesterday");
     const bool thisYear = used.date().year() == now.date().year();
-    return locale.toString(used.date(),
-                           thisYear ? QStringLiteral("d MMMM") : QStringLiteral("d MMMM yyyy"));
+    // Languages order a date's parts in their own way.
+    return locale.toString(used.date(), thisYear ? tr("d MMMM") : tr("d MMMM yyyy"));
 }
 
 QSize RecentDemoDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const

@@ -84,10 +84,11 @@ std::string readable(Seconds time)
     constexpr double longest = 359999; // 99 h 59 min
     const auto whole = static_cast<int>(std::clamp(std::ceil(time.count()), 0.0, longest));
     if (whole < 60)
-        return formatted("%d s", whole);
+        return tr("%1 s").arg(whole).toStdString();
+    const QChar zero(u'0');
     if (whole < 3600)
-        return formatted("%d min %02d s", whole / 60, whole % 60);
-    return formatted("%d h %02d min", whole / 3600, whole / 60 % 60);
+        return tr("%1 min %2 s").arg(whole / 60).arg(whole % 60, 2, 10, zero).toStdString();
+    return tr("%1 h %2 min").arg(whole / 3600).arg(whole / 60 % 60, 2, 10, zero).toStdString();
 }
 
 } // namespace velvane::cli
