@@ -2244,5 +2244,320 @@ EXAMPLE
 BEISPIEL
   velvane state tour.velvane --at 0 --at 2.5</translation>
     </message>
+    <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● Aufnahme – Esc hält an</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>Es werden gerade Aktionen aufgenommen.</translation>
+    </message>
+    <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Der Bildschirm ist größer als die Leinwand.</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Der Bildschirm hat %1 Punkte, die Leinwand %2. Was Sie jenseits der Leinwand tun, wird an ihrem Rand aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Leinwand behalten</translation>
+    </message>
+    <message>
+        <source>Recording starts in %1…</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Die Aufnahme beginnt in %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Die Aufnahme konnte nicht beginnen – erlauben Sie Velvane in den Systemeinstellungen die Eingabeüberwachung.</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Aufnahme angehalten – keine Aktionen erfasst.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 Schritt%2 aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 Schritte%2 aufgenommen.</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation> mit Bildschirmaufnahme</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>Kein Bildschirm zum Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Wächter</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>lässt los, was gehalten wird, wenn Velvane endet</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Installieren Sie Velvane neu: velvane-watchdog liegt nicht daneben.</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>antwortet</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Starten Sie Velvane vom Schreibtisch aus oder unter dbus-run-session: Ohne ihn lassen sich Fenster nicht mit einem laufenden Velvane teilen.</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Desktop-Portal</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>vorhanden</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installieren Sie xdg-desktop-portal und das Ihres Schreibtischs, damit Hell und Dunkel dem System folgen.</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Dateiverwaltung</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>zeigt eine Datei in ihrem Ordner</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>öffnet den Ordner einer Datei</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>keine lässt sich befragen</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installieren Sie eine Dateiverwaltung und xdg-utils, damit Aufnahmen gezeigt werden können.</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Schalten Sie %1 im X-Server ein: ohne %2.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Schalten Sie XKEYBOARD im X-Server ein: Ohne wird nichts so getippt, wie es geschrieben ist.</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Belegung ohne Namen</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Belegung %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>wird nichts geklickt oder getippt</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Mithören</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>werden Aktionen nicht gehört und Esc hält einen Lauf nicht an</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>wird der Bildschirm weder gezeigt noch aufgenommen</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Schnelle Bilder</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>kommen Bilder vom Bildschirm langsam</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Bildschirme</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>gelten mehrere Bildschirme als einer</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>Bringen Sie den Zeiger über das Ziel – Übernahme in %1 s · Esc bricht ab</translation>
+    </message>
+    <message>
+        <source>Pick on screen — position the cursor over the target.</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Am Bildschirm wählen – bringen Sie den Zeiger über das Ziel.</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Ort wählen</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Ziel bei (%1, %2) übernommen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane wurde das letzte Mal nicht richtig beendet.</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Diese Demos haben Änderungen, die nicht gespeichert wurden. Was nicht angekreuzt ist, wird beim nächsten Start wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Demos mit nicht gespeicherten Änderungen</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Kreuzen Sie die gemeinten Demos an</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>nie gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 – %2, %3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Die angekreuzten Demos öffnen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Beim nächsten Start wieder fragen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Die Änderungen der angekreuzten Demos aufgeben</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Aufnahme angehalten: %1</translation>
+    </message>
+    <message>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Aufnahme unter %1%2 gespeichert – in der Dateiverwaltung gezeigt.</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation> (Fenster nicht gefunden – ganzer Bildschirm aufgenommen)</translation>
+    </message>
 </context>
 </TS>

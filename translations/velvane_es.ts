@@ -2243,5 +2243,320 @@ EXAMPLE
 EJEMPLO
   velvane state tour.velvane --at 0 --at 2.5</translation>
     </message>
+    <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● Grabando: Esc para detener</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>Se están grabando acciones.</translation>
+    </message>
+    <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>La pantalla es más grande que el lienzo.</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>La pantalla tiene %1 puntos; el lienzo, %2. Lo que haga más allá del lienzo se graba en su borde.</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Conservar lienzo</translation>
+    </message>
+    <message>
+        <source>Recording starts in %1…</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>La grabación empieza en %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>No se pudo iniciar la grabación: conceda a Velvane la supervisión de entrada en los ajustes del sistema.</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Grabación detenida: no se captó ninguna acción.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 paso grabado%2.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 pasos grabados%2.</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation> con grabación de pantalla</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>No hay pantalla que grabar</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Vigilante</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>suelta lo pulsado si Velvane termina</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Instale Velvane de nuevo: velvane-watchdog no está a su lado.</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Bus de sesión</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>responde</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Inicie Velvane desde el escritorio o bajo dbus-run-session: sin él, las ventanas no se pueden compartir con un Velvane en ejecución.</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Portal de escritorio</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>presente</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Instale xdg-desktop-portal y el de su escritorio para que el modo claro u oscuro siga al sistema.</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Gestor archivos</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>muestra un archivo en su carpeta</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>abre la carpeta de un archivo</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>no se puede consultar ninguno</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Instale un gestor de archivos y xdg-utils para poder mostrar las grabaciones.</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Active %1 en el servidor X: sin ello %2.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Active XKEYBOARD en el servidor X: sin ello nada se escribe como está.</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>distribución sin nombre</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>distribución %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>no se hace clic ni se escribe nada</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Escucha</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>no se oyen las acciones y Esc no detiene una ejecución</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>la pantalla ni se muestra ni se graba</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Imágenes rápidas</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>las imágenes de la pantalla llegan despacio</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Pantallas</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>varias pantallas se toman por una sola</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>Coloque el puntero sobre el objetivo: captura en %1 s · Esc para cancelar</translation>
+    </message>
+    <message>
+        <source>Pick on screen — position the cursor over the target.</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Elegir en pantalla: coloque el puntero sobre el objetivo.</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Elegir posición</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Objetivo captado en (%1, %2)</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane no terminó correctamente la última vez.</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Estas demos tienen cambios sin guardar. Lo que no marque se ofrecerá de nuevo en el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Demos con cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Marque las demos que desee</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>nunca guardada</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Abrir las demos marcadas</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Volver a preguntar en el próximo inicio</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Renunciar a los cambios de las demos marcadas</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Grabación detenida: %1</translation>
+    </message>
+    <message>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Grabación guardada en %1%2: se muestra en el gestor de archivos.</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation> (ventana no encontrada: se grabó la pantalla completa)</translation>
+    </message>
 </context>
 </TS>

@@ -2242,5 +2242,320 @@ EXAMPLE
 EXEMPLE
   velvane state tour.velvane --at 0 --at 2.5</translation>
     </message>
+    <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● Enregistrement — Échap pour arrêter</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>Des actions sont en cours d’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>L’écran est plus grand que le canevas.</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>L’écran fait %1 points, le canevas %2. Ce que vous faites hors du canevas est enregistré à son bord.</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Garder le canevas</translation>
+    </message>
+    <message>
+        <source>Recording starts in %1…</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>L’enregistrement commence dans %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Impossible de démarrer l’enregistrement — accordez à Velvane la surveillance des entrées dans les réglages du système.</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Enregistrement arrêté — aucune action captée.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 étape enregistrée%2.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 étapes enregistrées%2.</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation> avec l’enregistrement de l’écran</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>Aucun écran à enregistrer</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Gardien</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>relâche ce qui est maintenu si Velvane s’arrête</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>absent</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Réinstallez Velvane : velvane-watchdog n’est pas à côté.</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Bus de session</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>répond</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Lancez Velvane depuis le bureau, ou sous dbus-run-session : sans lui, les fenêtres ne peuvent pas être partagées avec un Velvane déjà lancé.</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Portail de bureau</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>présent</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installez xdg-desktop-portal et celui de votre bureau, pour que clair et sombre suivent le système.</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Gestion. fichiers</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>montre un fichier dans son dossier</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ouvre le dossier d’un fichier</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>aucun ne répond</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installez un gestionnaire de fichiers et xdg-utils, pour que les enregistrements puissent être montrés.</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>il manque %1</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Activez %1 dans le serveur X : sans cela, %2.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Activez XKEYBOARD dans le serveur X : sans cela, rien n’est saisi tel qu’écrit.</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>disposition sans nom</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>disposition %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Envoi</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>rien n’est cliqué ni saisi</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Écoute</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>les actions ne sont pas entendues et Échap n’arrête pas une exécution</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>l’écran n’est ni montré ni enregistré</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Images rapides</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>les images de l’écran arrivent lentement</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Écrans</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>plusieurs écrans passent pour un seul</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>Placez le pointeur sur la cible — relevé dans %1 s · Échap pour annuler</translation>
+    </message>
+    <message>
+        <source>Pick on screen — position the cursor over the target.</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Choix à l’écran — placez le pointeur sur la cible.</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Choisir la position</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Cible relevée en (%1, %2)</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane ne s’est pas terminé correctement la dernière fois.</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Ces démos ont des modifications non enregistrées. Ce qui n’est pas coché sera proposé de nouveau au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Démos aux modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Cochez les démos concernées</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>jamais enregistrée</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Ouvrir les démos cochées</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Redemander au prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Abandonner les modifications des démos cochées</translation>
+    </message>
+    <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Enregistrement arrêté : %1</translation>
+    </message>
+    <message>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Enregistrement placé dans %1%2 — montré dans le gestionnaire de fichiers.</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation> (fenêtre introuvable — écran entier enregistré)</translation>
+    </message>
 </context>
 </TS>
