@@ -9,6 +9,7 @@ end
 complete -c velvane -f
 complete -c velvane -s h -l help -d 'Explain the program or the subcommand'
 complete -c velvane -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
+complete -c velvane -n "not __fish_seen_subcommand_from $commands" -l lang -x -a 'en de fr es ja zh_CN' -d 'The language of all texts'
 complete -c velvane -n "not __fish_seen_subcommand_from $commands" -l new-instance -d 'Open in a process of its own'
 complete -c velvane -n "not __fish_seen_subcommand_from export convert doctor" -a '(__velvane_demos)'
 complete -c velvane -n "__fish_seen_subcommand_from export convert" -F
