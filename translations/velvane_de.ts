@@ -4,6 +4,11 @@
 <context>
     <name>Velvane</name>
     <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● Aufnahme – Esc hält an</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <extracomment>AddStepGrid, StepList</extracomment>
         <translation>%1 hinzufügen</translation>
@@ -32,6 +37,11 @@
         <source>No applications found</source>
         <extracomment>AppMenu</extracomment>
         <translation>Keine Programme gefunden</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>No recording frame to freeze yet.</source>
@@ -128,6 +138,11 @@ die als H.264-Film gerendert oder auf dem echten Bildschirm ausgeführt wird.</t
         <translation>Demos, die im Editor geöffnet werden</translation>
     </message>
     <message>
+        <source>Open them in a process of its own, even when Velvane runs already</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>In einem eigenen Prozess öffnen, auch wenn Velvane schon läuft</translation>
+    </message>
+    <message>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>Die Sprache aller Texte, z. B. de</translation>
@@ -153,13 +168,23 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>(see velvane --help)</source>
-        <extracomment>CommandLine</extracomment>
+        <extracomment>CommandLine, cli</extracomment>
         <translation>(siehe velvane --help)</translation>
     </message>
     <message>
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>Es werden gerade Aktionen aufgenommen.</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <extracomment>DemoDocument</extracomment>
+        <translation>kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>Change Canvas</source>
@@ -268,7 +293,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Match Screen</source>
-        <extracomment>DemoSettingsForm</extracomment>
+        <extracomment>DemoSettingsForm, EditorWindow</extracomment>
         <translation>Wie Bildschirm</translation>
     </message>
     <message>
@@ -547,6 +572,21 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Meine Fassung behalten</translation>
     </message>
     <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Der Bildschirm ist größer als die Leinwand.</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Der Bildschirm hat %1 Punkte, die Leinwand %2. Was Sie jenseits der Leinwand tun, wird an ihrem Rand aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Leinwand behalten</translation>
+    </message>
+    <message>
         <source>Do you want to save the changes to “%1”?</source>
         <extracomment>EditorWindow</extracomment>
         <translation>Möchten Sie die Änderungen an „%1“ speichern?</translation>
@@ -742,6 +782,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>%1 Schritte ausgewählt</translation>
     </message>
     <message>
+        <source>not a property list</source>
+        <extracomment>KeptDemo, velvane</extracomment>
+        <translation>keine Eigenschaftsliste</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <extracomment>KeptSession</extracomment>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
         <source>Driving the real cursor — bring your target app forward</source>
         <extracomment>LiveOverlay</extracomment>
         <translation>Der echte Mauszeiger wird bewegt – holen Sie Ihr Zielprogramm nach vorn</translation>
@@ -773,7 +823,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Grant Accessibility permission to Velvane, then run again.</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Erlauben Sie Velvane die Bedienungshilfen und starten Sie erneut.</translation>
     </message>
     <message>
@@ -782,14 +832,19 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Esc lässt sich hier nicht überwachen; deshalb wurde nichts ausgeführt.</translation>
     </message>
     <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Aufnahme angehalten: %1</translation>
+    </message>
+    <message>
         <source>Couldn't start recording: %1</source>
         <extracomment>LiveRunController</extracomment>
         <translation>Die Aufnahme konnte nicht gestartet werden: %1</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record the screen yet.</source>
+        <source>Live run stopped: the display has gone.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>Diese Version von Velvane kann den Bildschirm noch nicht aufnehmen.</translation>
+        <translation>Live-Lauf angehalten: Der Bildschirm ist nicht mehr da.</translation>
     </message>
     <message>
         <source>Live run stopped.</source>
@@ -802,9 +857,24 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Live-Lauf beendet.</translation>
     </message>
     <message>
-        <source>Live run stopped: the display has gone.</source>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>Live-Lauf angehalten: Der Bildschirm ist nicht mehr da.</translation>
+        <translation>Aufnahme unter %1%2 gespeichert – in der Dateiverwaltung gezeigt.</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation> (Fenster nicht gefunden – ganzer Bildschirm aufgenommen)</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>Bringen Sie den Zeiger über das Ziel – Übernahme in %1 s · Esc bricht ab</translation>
+    </message>
+    <message>
+        <source>another user's link stands in its place</source>
+        <extracomment>MovieFile, WholeFile</extracomment>
+        <translation>an der Stelle steht der Link eines anderen Benutzers</translation>
     </message>
     <message>
         <source>The movie has no duration.</source>
@@ -847,9 +917,19 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>↑ und ↓ ändern um 1; mit Umschalt oder Bild auf und ab um 10.</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot pick locations yet.</source>
+        <source>Pick on screen — position the cursor over the target.</source>
         <extracomment>PickLocationController</extracomment>
-        <translation>Diese Version von Velvane kann noch keine Orte wählen.</translation>
+        <translation>Am Bildschirm wählen – bringen Sie den Zeiger über das Ziel.</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Ort wählen</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Ziel bei (%1, %2) übernommen</translation>
     </message>
     <message>
         <source>Nothing here decodes %1.</source>
@@ -898,7 +978,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Velvane</source>
-        <extracomment>Question, StartWindow</extracomment>
+        <extracomment>Question, RestorePanel, StartWindow</extracomment>
         <translation>Velvane</translation>
     </message>
     <message>
@@ -922,9 +1002,39 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>d. MMMM yyyy</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record actions yet.</source>
+        <source>Recording starts in %1…</source>
         <extracomment>RecordActionsController</extracomment>
-        <translation>Diese Version von Velvane kann noch keine Aktionen aufnehmen.</translation>
+        <translation>Die Aufnahme beginnt in %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Die Aufnahme konnte nicht beginnen – erlauben Sie Velvane in den Systemeinstellungen die Eingabeüberwachung.</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Aufnahme angehalten – keine Aktionen erfasst.</translation>
+    </message>
+    <message>
+        <source>Record Actions</source>
+        <extracomment>RecordActionsController, StepCommands</extracomment>
+        <translation>Aktionen aufnehmen</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 Schritt%2 aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 Schritte%2 aufgenommen.</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation> mit Bildschirmaufnahme</translation>
     </message>
     <message>
         <source>This demo has no screen recording yet.</source>
@@ -940,6 +1050,66 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Couldn't read the screen recording (%1).</source>
         <extracomment>RecordingBackdrop</extracomment>
         <translation>Die Bildschirmaufnahme ist nicht lesbar (%1).</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane wurde das letzte Mal nicht richtig beendet.</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Diese Demos haben Änderungen, die nicht gespeichert wurden. Was nicht angekreuzt ist, wird beim nächsten Start wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Demos mit nicht gespeicherten Änderungen</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Kreuzen Sie die gemeinten Demos an</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>nie gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 – %2, %3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Die angekreuzten Demos öffnen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Beim nächsten Start wieder fragen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Die Änderungen der angekreuzten Demos aufgeben</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>Kein Bildschirm zum Aufnehmen</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1502,6 +1672,26 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Das Wechseln von Programmen oder das Verschieben ihrer Fenster funktioniert vielleicht nicht; verwenden Sie einen anderen Fenstermanager.</translation>
     </message>
     <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Wächter</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>lässt los, was gehalten wird, wenn Velvane endet</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Installieren Sie Velvane neu: velvane-watchdog liegt nicht daneben.</translation>
+    </message>
+    <message>
         <source>running</source>
         <extracomment>X11Desktop</extracomment>
         <translation>läuft</translation>
@@ -1577,6 +1767,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>ohne Namen</translation>
     </message>
     <message>
+        <source>the display %1 cannot be opened</source>
+        <extracomment>cli</extracomment>
+        <translation>der Bildschirm %1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on</source>
+        <extracomment>cli</extracomment>
+        <translation>es gibt keinen Bildschirm, um ein Fenster zu öffnen</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <extracomment>std</extracomment>
         <translation>%1 s</translation>
@@ -1640,6 +1840,36 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>&amp;Help</source>
         <extracomment>velvane</extracomment>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <extracomment>velvane</extracomment>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <extracomment>velvane</extracomment>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <extracomment>velvane</extracomment>
+        <translation>keine solche Datei</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>zu groß, %1 Bytes</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -1772,14 +2002,69 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Die Update-Liste hat kein gültiges „%1“.</translation>
     </message>
     <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>antwortet</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <extracomment>SessionServices, cli</extracomment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Starten Sie Velvane vom Schreibtisch aus oder unter dbus-run-session: Ohne ihn lassen sich Fenster nicht mit einem laufenden Velvane teilen.</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Desktop-Portal</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>vorhanden</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installieren Sie xdg-desktop-portal und das Ihres Schreibtischs, damit Hell und Dunkel dem System folgen.</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Dateiverwaltung</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>zeigt eine Datei in ihrem Ordner</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>öffnet den Ordner einer Datei</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>keine lässt sich befragen</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installieren Sie eine Dateiverwaltung und xdg-utils, damit Aufnahmen gezeigt werden können.</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>Schritt hinzufügen</translation>
-    </message>
-    <message>
-        <source>Record Actions</source>
-        <extracomment>StepCommands</extracomment>
-        <translation>Aktionen aufnehmen</translation>
     </message>
     <message>
         <source>Recording — Esc to Stop</source>
@@ -1840,6 +2125,91 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Zoom 4×</source>
         <extracomment>ViewCommands</extracomment>
         <translation>4× vergrößern</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Schalten Sie %1 im X-Server ein: ohne %2.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Schalten Sie XKEYBOARD im X-Server ein: Ohne wird nichts so getippt, wie es geschrieben ist.</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Belegung ohne Namen</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Belegung %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>wird nichts geklickt oder getippt</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Mithören</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>werden Aktionen nicht gehört und Esc hält einen Lauf nicht an</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>wird der Bildschirm weder gezeigt noch aufgenommen</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Schnelle Bilder</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>kommen Bilder vom Bildschirm langsam</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Bildschirme</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>gelten mehrere Bildschirme als einer</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -1904,6 +2274,16 @@ BEISPIEL
   velvane convert tour.xml tour.velvane</translation>
     </message>
     <message>
+        <source>%1: is not writable</source>
+        <extracomment>cli</extracomment>
+        <translation>%1: ist nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
+        <extracomment>cli</extracomment>
+        <translation>Der Bildschirm (%1) ist größer als die Leinwand (%2): Was jenseits liegt, wird an ihrem Rand aufgenommen.</translation>
+    </message>
+    <message>
         <source>%1 frames per second</source>
         <extracomment>cli</extracomment>
         <translation>%1 Bilder pro Sekunde</translation>
@@ -1912,11 +2292,6 @@ BEISPIEL
         <source>Backdrop</source>
         <extracomment>cli</extracomment>
         <translation>Hintergrund</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <extracomment>cli</extracomment>
-        <translation>keine</translation>
     </message>
     <message>
         <source>picture of %1 × %2</source>
@@ -1952,6 +2327,39 @@ BEISPIEL
         <source>there is no step “%1”</source>
         <extracomment>cli</extracomment>
         <translation>es gibt keinen Schritt „%1“</translation>
+    </message>
+    <message>
+        <source>Say what this session can and cannot do, with remedies</source>
+        <extracomment>cli</extracomment>
+        <translation>Sagen, was diese Sitzung kann und was nicht, mit Abhilfe</translation>
+    </message>
+    <message>
+        <source>Print one JSON array instead of lines</source>
+        <extracomment>cli</extracomment>
+        <translation>Statt Zeilen eine JSON-Liste ausgeben</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Say what this session can and cannot do, a line for each capability, with
+  the remedy below what is missing. Nothing is changed and nothing is shown on
+  the screen.
+
+JSON
+  An object for each capability: what, works, state, remedy or null.
+
+EXAMPLE
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</source>
+        <extracomment>cli</extracomment>
+        <translation>BESCHREIBUNG
+  Sagt, was diese Sitzung kann und was nicht: eine Zeile für jede Fähigkeit,
+  darunter die Abhilfe, wo etwas fehlt. Nichts wird geändert, und nichts
+  erscheint auf dem Bildschirm.
+
+JSON
+  Ein Objekt für jede Fähigkeit: what, works, state, remedy oder null.
+
+BEISPIEL
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</translation>
     </message>
     <message>
         <source>frames</source>
@@ -2043,21 +2451,29 @@ BEISPIEL
         <translation>Das zu schreibende Bild</translation>
     </message>
     <message>
+        <source>Make it no wider and no higher than this</source>
+        <extracomment>cli</extracomment>
+        <translation>Nicht breiter und höher als dies machen</translation>
+    </message>
+    <message>
         <source>DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
-  last instant.
+  last instant. With --size, a larger picture is scaled down.
 
-EXAMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png</source>
+EXAMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</source>
         <extracomment>cli</extracomment>
         <translation>BESCHREIBUNG
   Rendert einen Moment einer Demo als PNG-Bild in der Größe der Leinwand: was
   ein Film in diesem Moment zeigt. Ein Moment außerhalb der Demo zeigt ihren
-  ersten oder letzten Augenblick.
+  ersten oder letzten Augenblick. Mit --size wird ein größeres Bild
+  verkleinert.
 
-BEISPIEL
-  velvane frame tour.velvane --at 2.5 --output still.png</translation>
+BEISPIELE
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</translation>
     </message>
     <message>
         <source>Show what a demo holds and when it happens</source>
@@ -2145,6 +2561,44 @@ BEISPIEL
   velvane new tour.velvane</translation>
     </message>
     <message>
+        <source>Record real mouse and keyboard actions into a demo</source>
+        <extracomment>cli</extracomment>
+        <translation>Echte Maus- und Tastaturaktionen in eine Demo aufnehmen</translation>
+    </message>
+    <message>
+        <source>The demo that the steps are appended to</source>
+        <extracomment>cli</extracomment>
+        <translation>Die Demo, an die die Schritte angehängt werden</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Record what is done with the mouse and the keyboard, after a countdown of
+  2.1 seconds, until Esc is pressed, whatever has the keyboard; Ctrl-C and
+  SIGTERM end it too. Nothing is kept from the programs in use. The steps are
+  appended to the demo, and the demo is saved.
+
+  The outcome goes to standard output. The exit status is 0, also when nothing
+  was recorded and the demo is left as it was, and 1 when it could not begin or
+  the demo could not be saved.
+
+EXAMPLE
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</source>
+        <extracomment>cli</extracomment>
+        <translation>BESCHREIBUNG
+  Nimmt auf, was mit Maus und Tastatur geschieht, nach einem Countdown von
+  2,1 Sekunden und bis Esc gedrückt wird, wo auch immer die Tastatur ist; auch
+  Strg-C und SIGTERM beenden es. Den benutzten Programmen wird nichts
+  vorenthalten. Die Schritte werden an die Demo angehängt, und die Demo wird
+  gespeichert.
+
+  Das Ergebnis geht auf die Standardausgabe. Der Status ist 0, auch wenn nichts
+  aufgenommen wurde und die Demo blieb, wie sie war, und 1, wenn es nicht
+  beginnen oder die Demo nicht gespeichert werden konnte.
+
+BEISPIEL
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</translation>
+    </message>
+    <message>
         <source>Perform a demo on the real desktop</source>
         <extracomment>cli</extracomment>
         <translation>Eine Demo auf dem echten Bildschirm ausführen</translation>
@@ -2188,7 +2642,11 @@ BEISPIEL
   STEP is a step's id or its number, as “velvane inspect” shows them. The
   cursor then begins where the demo would have left it.
 
-  The outcome goes to standard output. The exit status is 0 when the demo was
+  The outcome goes to standard output, and so does the path of the movie of a
+  recorded run, below it. Movies are put into Movies/Velvane in the home
+  folder. With “window” what the window of the demo's one application covers
+  is recorded; where there is none, or where the demo switches between
+  several, the whole screen is. The exit status is 0 when the demo was
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE
@@ -2203,12 +2661,160 @@ EXAMPLE
   „velvane inspect“ sie zeigt. Der Zeiger beginnt dann dort, wo die Demo ihn
   gelassen hätte.
 
-  Das Ergebnis geht auf die Standardausgabe. Der Status ist 0, wenn die Demo
-  bis zum Ende lief, und 1, wenn sie angehalten wurde oder nicht beginnen
-  konnte.
+  Das Ergebnis geht auf die Standardausgabe, darunter der Pfad des Films eines
+  aufgenommenen Laufs. Filme kommen nach Movies/Velvane im persönlichen Ordner.
+  Mit „window“ wird aufgenommen, was das Fenster des einzigen Programms der Demo
+  bedeckt; gibt es keins oder wechselt die Demo zwischen mehreren, der ganze
+  Bildschirm. Der Status ist 0, wenn die Demo bis zum Ende lief, und 1, wenn sie
+  angehalten wurde oder nicht beginnen konnte.
 
 BEISPIEL
   velvane run tour.velvane --from 4 --hide-others</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <extracomment>cli</extracomment>
+        <translation>Anzeigeserver</translation>
+    </message>
+    <message>
+        <source>X11 (%1), which does not answer</source>
+        <extracomment>cli</extracomment>
+        <translation>X11 (%1), antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Start this in the desktop session, where DISPLAY and XAUTHORITY are right.</source>
+        <extracomment>cli</extracomment>
+        <translation>Starten Sie dies in der Desktop-Sitzung, wo DISPLAY und XAUTHORITY stimmen.</translation>
+    </message>
+    <message>
+        <source>Rendering needs none; the editor does: start it in a desktop session.</source>
+        <extracomment>cli</extracomment>
+        <translation>Das Rendern braucht keinen, der Editor schon: Starten Sie ihn in einer Desktop-Sitzung.</translation>
+    </message>
+    <message>
+        <source>works</source>
+        <extracomment>cli</extracomment>
+        <translation>geht</translation>
+    </message>
+    <message>
+        <source>not here</source>
+        <extracomment>cli</extracomment>
+        <translation>geht hier nicht</translation>
+    </message>
+    <message>
+        <source>Caption font</source>
+        <extracomment>cli</extracomment>
+        <translation>Schrift der Titel</translation>
+    </message>
+    <message>
+        <source>%1, semibold</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, halbfett</translation>
+    </message>
+    <message>
+        <source>Inter is missing, another sans-serif stands in</source>
+        <extracomment>cli</extracomment>
+        <translation>Inter fehlt, eine andere serifenlose springt ein</translation>
+    </message>
+    <message>
+        <source>Install %1.</source>
+        <extracomment>cli</extracomment>
+        <translation>Installieren Sie %1.</translation>
+    </message>
+    <message>
+        <source>no font has all of %1</source>
+        <extracomment>cli</extracomment>
+        <translation>keine Schrift hat alle von %1</translation>
+    </message>
+    <message>
+        <source>Backdrop pictures</source>
+        <extracomment>cli</extracomment>
+        <translation>Hintergrundbilder</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <extracomment>cli</extracomment>
+        <translation>Sitzung</translation>
+    </message>
+    <message>
+        <source>Log in with an X11 session: in a Wayland session demos can be composed and rendered, not run or recorded.</source>
+        <extracomment>cli</extracomment>
+        <translation>Melden Sie sich mit einer X11-Sitzung an: In einer Wayland-Sitzung lassen sich Demos verfassen und rendern, aber nicht ausführen oder aufnehmen.</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <extracomment>cli</extracomment>
+        <translation>nicht genannt</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, %2 frei</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <extracomment>cli</extracomment>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Make room there: a recording ends when the disk is full.</source>
+        <extracomment>cli</extracomment>
+        <translation>Schaffen Sie dort Platz: Eine Aufnahme endet, wenn der Datenträger voll ist.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <extracomment>cli</extracomment>
+        <translation>%1 ist nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>Make %1 a folder that you may write to.</source>
+        <extracomment>cli</extracomment>
+        <translation>Machen Sie %1 zu einem Ordner, in den Sie schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <extracomment>cli</extracomment>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read as they are written.</source>
+        <extracomment>cli</extracomment>
+        <translation>Setzen Sie LANG auf ein UTF-8-Gebietsschema wie C.UTF-8, damit Dateinamen und Texte so gelesen werden, wie sie geschrieben sind.</translation>
+    </message>
+    <message>
+        <source>Input posting</source>
+        <extracomment>cli</extracomment>
+        <translation>Eingaben senden</translation>
+    </message>
+    <message>
+        <source>Input listening</source>
+        <extracomment>cli</extracomment>
+        <translation>Eingaben mithören</translation>
+    </message>
+    <message>
+        <source>Screen capture</source>
+        <extracomment>cli</extracomment>
+        <translation>Bildschirmbilder</translation>
+    </message>
+    <message>
+        <source>H.264 encoder</source>
+        <extracomment>cli</extracomment>
+        <translation>H.264-Encoder</translation>
+    </message>
+    <message>
+        <source>Movie files</source>
+        <extracomment>cli</extracomment>
+        <translation>Filmdateien</translation>
+    </message>
+    <message>
+        <source>Shortcut glyphs</source>
+        <extracomment>cli</extracomment>
+        <translation>Tastenzeichen</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <extracomment>cli</extracomment>
+        <translation>Emoji</translation>
     </message>
     <message>
         <source>Show what a demo shows at given moments</source>
@@ -2243,321 +2849,6 @@ EXAMPLE
 
 BEISPIEL
   velvane state tour.velvane --at 0 --at 2.5</translation>
-    </message>
-    <message>
-        <source>● Recording — Esc to stop</source>
-        <extracomment>ActionRecorder, RecordActionsController</extracomment>
-        <translation>● Aufnahme – Esc hält an</translation>
-    </message>
-    <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Es werden gerade Aktionen aufgenommen.</translation>
-    </message>
-    <message>
-        <source>The screen is larger than the canvas.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Der Bildschirm ist größer als die Leinwand.</translation>
-    </message>
-    <message>
-        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Der Bildschirm hat %1 Punkte, die Leinwand %2. Was Sie jenseits der Leinwand tun, wird an ihrem Rand aufgenommen.</translation>
-    </message>
-    <message>
-        <source>Keep Canvas</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Leinwand behalten</translation>
-    </message>
-    <message>
-        <source>Recording starts in %1…</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>Die Aufnahme beginnt in %1…</translation>
-    </message>
-    <message>
-        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>Die Aufnahme konnte nicht beginnen – erlauben Sie Velvane in den Systemeinstellungen die Eingabeüberwachung.</translation>
-    </message>
-    <message>
-        <source>Recording stopped — no actions captured.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>Aufnahme angehalten – keine Aktionen erfasst.</translation>
-    </message>
-    <message>
-        <source>Recorded %1 step%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1 Schritt%2 aufgenommen.</translation>
-    </message>
-    <message>
-        <source>Recorded %1 steps%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1 Schritte%2 aufgenommen.</translation>
-    </message>
-    <message>
-        <source> with screen recording</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation> mit Bildschirmaufnahme</translation>
-    </message>
-    <message>
-        <source>No display to record</source>
-        <extracomment>RunRecorder</extracomment>
-        <translation>Kein Bildschirm zum Aufnehmen</translation>
-    </message>
-    <message>
-        <source>Watchdog</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Wächter</translation>
-    </message>
-    <message>
-        <source>releases what is held if Velvane ends</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>lässt los, was gehalten wird, wenn Velvane endet</translation>
-    </message>
-    <message>
-        <source>missing</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>fehlt</translation>
-    </message>
-    <message>
-        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Installieren Sie Velvane neu: velvane-watchdog liegt nicht daneben.</translation>
-    </message>
-    <message>
-        <source>Session bus</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Sitzungsbus</translation>
-    </message>
-    <message>
-        <source>answers</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>antwortet</translation>
-    </message>
-    <message>
-        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Starten Sie Velvane vom Schreibtisch aus oder unter dbus-run-session: Ohne ihn lassen sich Fenster nicht mit einem laufenden Velvane teilen.</translation>
-    </message>
-    <message>
-        <source>Desktop portal</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Desktop-Portal</translation>
-    </message>
-    <message>
-        <source>there</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>vorhanden</translation>
-    </message>
-    <message>
-        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Installieren Sie xdg-desktop-portal und das Ihres Schreibtischs, damit Hell und Dunkel dem System folgen.</translation>
-    </message>
-    <message>
-        <source>File manager</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Dateiverwaltung</translation>
-    </message>
-    <message>
-        <source>shows a file in its folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>zeigt eine Datei in ihrem Ordner</translation>
-    </message>
-    <message>
-        <source>opens a file's folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>öffnet den Ordner einer Datei</translation>
-    </message>
-    <message>
-        <source>none can be asked</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>keine lässt sich befragen</translation>
-    </message>
-    <message>
-        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Installieren Sie eine Dateiverwaltung und xdg-utils, damit Aufnahmen gezeigt werden können.</translation>
-    </message>
-    <message>
-        <source>lacks %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>%1 fehlt</translation>
-    </message>
-    <message>
-        <source>Enable %1 in the X server: without it %2.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Schalten Sie %1 im X-Server ein: ohne %2.</translation>
-    </message>
-    <message>
-        <source>Keyboard</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Tastatur</translation>
-    </message>
-    <message>
-        <source>cannot be read</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>nicht lesbar</translation>
-    </message>
-    <message>
-        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Schalten Sie XKEYBOARD im X-Server ein: Ohne wird nichts so getippt, wie es geschrieben ist.</translation>
-    </message>
-    <message>
-        <source>layout not named</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Belegung ohne Namen</translation>
-    </message>
-    <message>
-        <source>layout %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Belegung %1</translation>
-    </message>
-    <message>
-        <source>Posting</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Senden</translation>
-    </message>
-    <message>
-        <source>nothing is clicked or typed</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>wird nichts geklickt oder getippt</translation>
-    </message>
-    <message>
-        <source>Listening</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Mithören</translation>
-    </message>
-    <message>
-        <source>actions are not heard and Esc does not stop a run</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>werden Aktionen nicht gehört und Esc hält einen Lauf nicht an</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>the screen is neither shown nor recorded</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>wird der Bildschirm weder gezeigt noch aufgenommen</translation>
-    </message>
-    <message>
-        <source>Fast pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Schnelle Bilder</translation>
-    </message>
-    <message>
-        <source>pictures of the screen come slowly</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>kommen Bilder vom Bildschirm langsam</translation>
-    </message>
-    <message>
-        <source>Displays</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Bildschirme</translation>
-    </message>
-    <message>
-        <source>several displays are taken for one</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>gelten mehrere Bildschirme als einer</translation>
-    </message>
-    <message>
-        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
-        <extracomment>LocationPicker</extracomment>
-        <translation>Bringen Sie den Zeiger über das Ziel – Übernahme in %1 s · Esc bricht ab</translation>
-    </message>
-    <message>
-        <source>Pick on screen — position the cursor over the target.</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Am Bildschirm wählen – bringen Sie den Zeiger über das Ziel.</translation>
-    </message>
-    <message>
-        <source>Pick Location</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Ort wählen</translation>
-    </message>
-    <message>
-        <source>Captured target at (%1, %2)</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Ziel bei (%1, %2) übernommen</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <extracomment>Autosave, RestorePanel</extracomment>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Velvane did not end properly the last time.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Velvane wurde das letzte Mal nicht richtig beendet.</translation>
-    </message>
-    <message>
-        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Diese Demos haben Änderungen, die nicht gespeichert wurden. Was nicht angekreuzt ist, wird beim nächsten Start wieder angeboten.</translation>
-    </message>
-    <message>
-        <source>Demos with changes that were not saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Demos mit nicht gespeicherten Änderungen</translation>
-    </message>
-    <message>
-        <source>Check the demos that you mean</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Kreuzen Sie die gemeinten Demos an</translation>
-    </message>
-    <message>
-        <source>never saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>nie gespeichert</translation>
-    </message>
-    <message>
-        <source>%1 — %2, %3</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>%1 – %2, %3</translation>
-    </message>
-    <message>
-        <source>Open the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Die angekreuzten Demos öffnen</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Später</translation>
-    </message>
-    <message>
-        <source>Ask again at the next start</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Beim nächsten Start wieder fragen</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Verwerfen</translation>
-    </message>
-    <message>
-        <source>Give up the changes of the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Die Änderungen der angekreuzten Demos aufgeben</translation>
-    </message>
-    <message>
-        <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>Aufnahme angehalten: %1</translation>
-    </message>
-    <message>
-        <source>Recording saved to %1%2 — revealed in Finder.</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>Aufnahme unter %1%2 gespeichert – in der Dateiverwaltung gezeigt.</translation>
-    </message>
-    <message>
-        <source> (window not found — recorded full screen)</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation> (Fenster nicht gefunden – ganzer Bildschirm aufgenommen)</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,11 @@
 <context>
     <name>Velvane</name>
     <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● Grabando: Esc para detener</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <extracomment>AddStepGrid, StepList</extracomment>
         <translation>Añadir %1</translation>
@@ -32,6 +37,11 @@
         <source>No applications found</source>
         <extracomment>AppMenu</extracomment>
         <translation>No se encontraron aplicaciones</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>Restaurar</translation>
     </message>
     <message>
         <source>No recording frame to freeze yet.</source>
@@ -128,6 +138,11 @@ convierte en una película H.264 o se ejecuta en el escritorio real.</translatio
         <translation>Demos que se abren en el editor</translation>
     </message>
     <message>
+        <source>Open them in a process of its own, even when Velvane runs already</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>Abrirlas en un proceso propio, aunque Velvane ya esté en ejecución</translation>
+    </message>
+    <message>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>El idioma de todos los textos, p. ej., de</translation>
@@ -153,13 +168,23 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>(see velvane --help)</source>
-        <extracomment>CommandLine</extracomment>
+        <extracomment>CommandLine, cli</extracomment>
         <translation>(vea velvane --help)</translation>
     </message>
     <message>
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>Se están grabando acciones.</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <extracomment>DemoDocument</extracomment>
+        <translation>no se puede escribir: %1</translation>
     </message>
     <message>
         <source>Change Canvas</source>
@@ -268,7 +293,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Match Screen</source>
-        <extracomment>DemoSettingsForm</extracomment>
+        <extracomment>DemoSettingsForm, EditorWindow</extracomment>
         <translation>Como la pantalla</translation>
     </message>
     <message>
@@ -547,6 +572,21 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Conservar mi versión</translation>
     </message>
     <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>La pantalla es más grande que el lienzo.</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>La pantalla tiene %1 puntos; el lienzo, %2. Lo que haga más allá del lienzo se graba en su borde.</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Conservar lienzo</translation>
+    </message>
+    <message>
         <source>Do you want to save the changes to “%1”?</source>
         <extracomment>EditorWindow</extracomment>
         <translation>¿Desea guardar los cambios en «%1»?</translation>
@@ -742,6 +782,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>%1 pasos seleccionados</translation>
     </message>
     <message>
+        <source>not a property list</source>
+        <extracomment>KeptDemo, velvane</extracomment>
+        <translation>no es una lista de propiedades</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <extracomment>KeptSession</extracomment>
+        <translation>no se puede crear la carpeta %1</translation>
+    </message>
+    <message>
         <source>Driving the real cursor — bring your target app forward</source>
         <extracomment>LiveOverlay</extracomment>
         <translation>Moviendo el puntero real: traiga al frente su aplicación</translation>
@@ -773,7 +823,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Grant Accessibility permission to Velvane, then run again.</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Conceda a Velvane el permiso de accesibilidad y ejecute de nuevo.</translation>
     </message>
     <message>
@@ -782,14 +832,19 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Aquí no se puede vigilar la tecla Esc, así que no se ejecutó nada.</translation>
     </message>
     <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Grabación detenida: %1</translation>
+    </message>
+    <message>
         <source>Couldn't start recording: %1</source>
         <extracomment>LiveRunController</extracomment>
         <translation>No se pudo iniciar la grabación: %1</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record the screen yet.</source>
+        <source>Live run stopped: the display has gone.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>Esta versión de Velvane aún no puede grabar la pantalla.</translation>
+        <translation>Ejecución en vivo detenida: la pantalla ha desaparecido.</translation>
     </message>
     <message>
         <source>Live run stopped.</source>
@@ -802,9 +857,24 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Ejecución en vivo finalizada.</translation>
     </message>
     <message>
-        <source>Live run stopped: the display has gone.</source>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>Ejecución en vivo detenida: la pantalla ha desaparecido.</translation>
+        <translation>Grabación guardada en %1%2: se muestra en el gestor de archivos.</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation> (ventana no encontrada: se grabó la pantalla completa)</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>Coloque el puntero sobre el objetivo: captura en %1 s · Esc para cancelar</translation>
+    </message>
+    <message>
+        <source>another user's link stands in its place</source>
+        <extracomment>MovieFile, WholeFile</extracomment>
+        <translation>en su lugar hay un enlace de otro usuario</translation>
     </message>
     <message>
         <source>The movie has no duration.</source>
@@ -847,9 +917,19 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>↑ y ↓ lo cambian en 1; con Mayús, o con Re Pág y Av Pág, en 10.</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot pick locations yet.</source>
+        <source>Pick on screen — position the cursor over the target.</source>
         <extracomment>PickLocationController</extracomment>
-        <translation>Esta versión de Velvane aún no puede elegir posiciones.</translation>
+        <translation>Elegir en pantalla: coloque el puntero sobre el objetivo.</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Elegir posición</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Objetivo captado en (%1, %2)</translation>
     </message>
     <message>
         <source>Nothing here decodes %1.</source>
@@ -898,7 +978,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Velvane</source>
-        <extracomment>Question, StartWindow</extracomment>
+        <extracomment>Question, RestorePanel, StartWindow</extracomment>
         <translation>Velvane</translation>
     </message>
     <message>
@@ -922,9 +1002,39 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>d 'de' MMMM 'de' yyyy</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record actions yet.</source>
+        <source>Recording starts in %1…</source>
         <extracomment>RecordActionsController</extracomment>
-        <translation>Esta versión de Velvane aún no puede grabar acciones.</translation>
+        <translation>La grabación empieza en %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>No se pudo iniciar la grabación: conceda a Velvane la supervisión de entrada en los ajustes del sistema.</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Grabación detenida: no se captó ninguna acción.</translation>
+    </message>
+    <message>
+        <source>Record Actions</source>
+        <extracomment>RecordActionsController, StepCommands</extracomment>
+        <translation>Grabar acciones</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 paso grabado%2.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 pasos grabados%2.</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation> con grabación de pantalla</translation>
     </message>
     <message>
         <source>This demo has no screen recording yet.</source>
@@ -940,6 +1050,66 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Couldn't read the screen recording (%1).</source>
         <extracomment>RecordingBackdrop</extracomment>
         <translation>No se pudo leer la grabación de pantalla (%1).</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane no terminó correctamente la última vez.</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Estas demos tienen cambios sin guardar. Lo que no marque se ofrecerá de nuevo en el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Demos con cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Marque las demos que desee</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>nunca guardada</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Abrir las demos marcadas</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Volver a preguntar en el próximo inicio</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Renunciar a los cambios de las demos marcadas</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>No hay pantalla que grabar</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1502,6 +1672,26 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Puede que no funcione cambiar de aplicación o mover sus ventanas; use otro gestor de ventanas.</translation>
     </message>
     <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Vigilante</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>suelta lo pulsado si Velvane termina</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Instale Velvane de nuevo: velvane-watchdog no está a su lado.</translation>
+    </message>
+    <message>
         <source>running</source>
         <extracomment>X11Desktop</extracomment>
         <translation>en ejecución</translation>
@@ -1577,6 +1767,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>sin nombre</translation>
     </message>
     <message>
+        <source>the display %1 cannot be opened</source>
+        <extracomment>cli</extracomment>
+        <translation>no se puede abrir la pantalla %1</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on</source>
+        <extracomment>cli</extracomment>
+        <translation>no hay pantalla en la que abrir una ventana</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <extracomment>std</extracomment>
         <translation>%1 s</translation>
@@ -1640,6 +1840,36 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>&amp;Help</source>
         <extracomment>velvane</extracomment>
         <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <extracomment>velvane</extracomment>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <extracomment>velvane</extracomment>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <extracomment>velvane</extracomment>
+        <translation>no existe el archivo</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>no se puede abrir: %1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>demasiado grande, %1 bytes</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>no se puede leer: %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -1772,14 +2002,69 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>El canal de actualizaciones no tiene «%1» válido.</translation>
     </message>
     <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Bus de sesión</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>responde</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <extracomment>SessionServices, cli</extracomment>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Inicie Velvane desde el escritorio o bajo dbus-run-session: sin él, las ventanas no se pueden compartir con un Velvane en ejecución.</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Portal de escritorio</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>presente</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Instale xdg-desktop-portal y el de su escritorio para que el modo claro u oscuro siga al sistema.</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Gestor archivos</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>muestra un archivo en su carpeta</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>abre la carpeta de un archivo</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>no se puede consultar ninguno</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Instale un gestor de archivos y xdg-utils para poder mostrar las grabaciones.</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>Añadir paso</translation>
-    </message>
-    <message>
-        <source>Record Actions</source>
-        <extracomment>StepCommands</extracomment>
-        <translation>Grabar acciones</translation>
     </message>
     <message>
         <source>Recording — Esc to Stop</source>
@@ -1840,6 +2125,91 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Zoom 4×</source>
         <extracomment>ViewCommands</extracomment>
         <translation>Ampliar 4×</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Active %1 en el servidor X: sin ello %2.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Active XKEYBOARD en el servidor X: sin ello nada se escribe como está.</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>distribución sin nombre</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>distribución %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>no se hace clic ni se escribe nada</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Escucha</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>no se oyen las acciones y Esc no detiene una ejecución</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>la pantalla ni se muestra ni se graba</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Imágenes rápidas</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>las imágenes de la pantalla llegan despacio</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Pantallas</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>varias pantallas se toman por una sola</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -1904,6 +2274,16 @@ EJEMPLO
   velvane convert tour.xml tour.velvane</translation>
     </message>
     <message>
+        <source>%1: is not writable</source>
+        <extracomment>cli</extracomment>
+        <translation>%1: no se puede escribir</translation>
+    </message>
+    <message>
+        <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
+        <extracomment>cli</extracomment>
+        <translation>La pantalla (%1) es más grande que el lienzo (%2): lo que queda más allá se graba en su borde.</translation>
+    </message>
+    <message>
         <source>%1 frames per second</source>
         <extracomment>cli</extracomment>
         <translation>%1 fotogramas por segundo</translation>
@@ -1912,11 +2292,6 @@ EJEMPLO
         <source>Backdrop</source>
         <extracomment>cli</extracomment>
         <translation>Fondo</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <extracomment>cli</extracomment>
-        <translation>ninguno</translation>
     </message>
     <message>
         <source>picture of %1 × %2</source>
@@ -1952,6 +2327,39 @@ EJEMPLO
         <source>there is no step “%1”</source>
         <extracomment>cli</extracomment>
         <translation>no existe el paso «%1»</translation>
+    </message>
+    <message>
+        <source>Say what this session can and cannot do, with remedies</source>
+        <extracomment>cli</extracomment>
+        <translation>Decir qué puede y qué no puede hacer esta sesión, con remedios</translation>
+    </message>
+    <message>
+        <source>Print one JSON array instead of lines</source>
+        <extracomment>cli</extracomment>
+        <translation>Escribir una lista JSON en vez de líneas</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Say what this session can and cannot do, a line for each capability, with
+  the remedy below what is missing. Nothing is changed and nothing is shown on
+  the screen.
+
+JSON
+  An object for each capability: what, works, state, remedy or null.
+
+EXAMPLE
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</source>
+        <extracomment>cli</extracomment>
+        <translation>DESCRIPCIÓN
+  Dice qué puede y qué no puede hacer esta sesión, una línea por capacidad,
+  con el remedio debajo de lo que falta. No se cambia nada ni se muestra nada
+  en la pantalla.
+
+JSON
+  Un objeto por capacidad: what, works, state, remedy o null.
+
+EJEMPLO
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</translation>
     </message>
     <message>
         <source>frames</source>
@@ -2043,21 +2451,28 @@ EJEMPLO
         <translation>La imagen que se escribe</translation>
     </message>
     <message>
+        <source>Make it no wider and no higher than this</source>
+        <extracomment>cli</extracomment>
+        <translation>No hacerla más ancha ni más alta que esto</translation>
+    </message>
+    <message>
         <source>DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
-  last instant.
+  last instant. With --size, a larger picture is scaled down.
 
-EXAMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png</source>
+EXAMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</source>
         <extracomment>cli</extracomment>
         <translation>DESCRIPCIÓN
   Convierte un instante de una demo en una imagen PNG del tamaño del lienzo:
   lo que una película muestra en ese instante. Un instante fuera de la demo
-  muestra el primero o el último.
+  muestra el primero o el último. Con --size se reduce una imagen más grande.
 
-EJEMPLO
-  velvane frame tour.velvane --at 2.5 --output still.png</translation>
+EJEMPLOS
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</translation>
     </message>
     <message>
         <source>Show what a demo holds and when it happens</source>
@@ -2145,6 +2560,43 @@ EJEMPLO
   velvane new tour.velvane</translation>
     </message>
     <message>
+        <source>Record real mouse and keyboard actions into a demo</source>
+        <extracomment>cli</extracomment>
+        <translation>Grabar en una demo acciones reales de ratón y teclado</translation>
+    </message>
+    <message>
+        <source>The demo that the steps are appended to</source>
+        <extracomment>cli</extracomment>
+        <translation>La demo a la que se añaden los pasos</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Record what is done with the mouse and the keyboard, after a countdown of
+  2.1 seconds, until Esc is pressed, whatever has the keyboard; Ctrl-C and
+  SIGTERM end it too. Nothing is kept from the programs in use. The steps are
+  appended to the demo, and the demo is saved.
+
+  The outcome goes to standard output. The exit status is 0, also when nothing
+  was recorded and the demo is left as it was, and 1 when it could not begin or
+  the demo could not be saved.
+
+EXAMPLE
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</source>
+        <extracomment>cli</extracomment>
+        <translation>DESCRIPCIÓN
+  Graba lo que se hace con el ratón y el teclado, tras una cuenta atrás de
+  2,1 segundos, hasta que se pulsa Esc, tenga quien tenga el teclado; Ctrl-C y
+  SIGTERM también la terminan. Nada se oculta a los programas en uso. Los pasos
+  se añaden a la demo, y la demo se guarda.
+
+  El resultado va a la salida estándar. El estado es 0, también si no se grabó
+  nada y la demo queda como estaba, y 1 si no pudo empezar o si no se pudo
+  guardar la demo.
+
+EJEMPLO
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</translation>
+    </message>
+    <message>
         <source>Perform a demo on the real desktop</source>
         <extracomment>cli</extracomment>
         <translation>Ejecutar una demo en el escritorio real</translation>
@@ -2188,7 +2640,11 @@ EJEMPLO
   STEP is a step's id or its number, as “velvane inspect” shows them. The
   cursor then begins where the demo would have left it.
 
-  The outcome goes to standard output. The exit status is 0 when the demo was
+  The outcome goes to standard output, and so does the path of the movie of a
+  recorded run, below it. Movies are put into Movies/Velvane in the home
+  folder. With “window” what the window of the demo's one application covers
+  is recorded; where there is none, or where the demo switches between
+  several, the whole screen is. The exit status is 0 when the demo was
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE
@@ -2203,11 +2659,159 @@ EXAMPLE
   «velvane inspect». El puntero empieza entonces donde la demo lo habría
   dejado.
 
-  El resultado va a la salida estándar. El estado es 0 si la demo llegó a su
-  fin y 1 si se detuvo o no pudo empezar.
+  El resultado va a la salida estándar y, debajo, la ruta de la película de una
+  ejecución grabada. Las películas van a Movies/Velvane en la carpeta personal.
+  Con «window» se graba lo que cubre la ventana de la única aplicación de la
+  demo; si no la hay, o si la demo cambia entre varias, toda la pantalla. El
+  estado es 0 si la demo llegó a su fin y 1 si se detuvo o no pudo empezar.
 
 EJEMPLO
   velvane run tour.velvane --from 4 --hide-others</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <extracomment>cli</extracomment>
+        <translation>Servidor gráfico</translation>
+    </message>
+    <message>
+        <source>X11 (%1), which does not answer</source>
+        <extracomment>cli</extracomment>
+        <translation>X11 (%1), que no responde</translation>
+    </message>
+    <message>
+        <source>Start this in the desktop session, where DISPLAY and XAUTHORITY are right.</source>
+        <extracomment>cli</extracomment>
+        <translation>Inicie esto en la sesión de escritorio, donde DISPLAY y XAUTHORITY son correctos.</translation>
+    </message>
+    <message>
+        <source>Rendering needs none; the editor does: start it in a desktop session.</source>
+        <extracomment>cli</extracomment>
+        <translation>La conversión no lo necesita; el editor sí: inícielo en una sesión de escritorio.</translation>
+    </message>
+    <message>
+        <source>works</source>
+        <extracomment>cli</extracomment>
+        <translation>funciona</translation>
+    </message>
+    <message>
+        <source>not here</source>
+        <extracomment>cli</extracomment>
+        <translation>aquí no</translation>
+    </message>
+    <message>
+        <source>Caption font</source>
+        <extracomment>cli</extracomment>
+        <translation>Letra de rótulos</translation>
+    </message>
+    <message>
+        <source>%1, semibold</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, seminegrita</translation>
+    </message>
+    <message>
+        <source>Inter is missing, another sans-serif stands in</source>
+        <extracomment>cli</extracomment>
+        <translation>Falta Inter; la sustituye otra sin serifa</translation>
+    </message>
+    <message>
+        <source>Install %1.</source>
+        <extracomment>cli</extracomment>
+        <translation>Instale %1.</translation>
+    </message>
+    <message>
+        <source>no font has all of %1</source>
+        <extracomment>cli</extracomment>
+        <translation>ninguna letra tiene todos: %1</translation>
+    </message>
+    <message>
+        <source>Backdrop pictures</source>
+        <extracomment>cli</extracomment>
+        <translation>Imágenes de fondo</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <extracomment>cli</extracomment>
+        <translation>Sesión</translation>
+    </message>
+    <message>
+        <source>Log in with an X11 session: in a Wayland session demos can be composed and rendered, not run or recorded.</source>
+        <extracomment>cli</extracomment>
+        <translation>Inicie una sesión de X11: en una de Wayland se pueden componer y convertir demos, no ejecutarlas ni grabarlas.</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <extracomment>cli</extracomment>
+        <translation>no indicada</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, %2 libres</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <extracomment>cli</extracomment>
+        <translation>Grabaciones</translation>
+    </message>
+    <message>
+        <source>Make room there: a recording ends when the disk is full.</source>
+        <extracomment>cli</extracomment>
+        <translation>Haga sitio allí: una grabación termina cuando el disco está lleno.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <extracomment>cli</extracomment>
+        <translation>no se puede escribir en %1</translation>
+    </message>
+    <message>
+        <source>Make %1 a folder that you may write to.</source>
+        <extracomment>cli</extracomment>
+        <translation>Haga de %1 una carpeta en la que pueda escribir.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <extracomment>cli</extracomment>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read as they are written.</source>
+        <extracomment>cli</extracomment>
+        <translation>Ponga LANG en una configuración UTF-8, como C.UTF-8, para que nombres de archivo y textos se lean como están escritos.</translation>
+    </message>
+    <message>
+        <source>Input posting</source>
+        <extracomment>cli</extracomment>
+        <translation>Enviar entradas</translation>
+    </message>
+    <message>
+        <source>Input listening</source>
+        <extracomment>cli</extracomment>
+        <translation>Escuchar entradas</translation>
+    </message>
+    <message>
+        <source>Screen capture</source>
+        <extracomment>cli</extracomment>
+        <translation>Captura pantalla</translation>
+    </message>
+    <message>
+        <source>H.264 encoder</source>
+        <extracomment>cli</extracomment>
+        <translation>Codificador H.264</translation>
+    </message>
+    <message>
+        <source>Movie files</source>
+        <extracomment>cli</extracomment>
+        <translation>Archivos película</translation>
+    </message>
+    <message>
+        <source>Shortcut glyphs</source>
+        <extracomment>cli</extracomment>
+        <translation>Signos de teclas</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <extracomment>cli</extracomment>
+        <translation>Emojis</translation>
     </message>
     <message>
         <source>Show what a demo shows at given moments</source>
@@ -2242,321 +2846,6 @@ EXAMPLE
 
 EJEMPLO
   velvane state tour.velvane --at 0 --at 2.5</translation>
-    </message>
-    <message>
-        <source>● Recording — Esc to stop</source>
-        <extracomment>ActionRecorder, RecordActionsController</extracomment>
-        <translation>● Grabando: Esc para detener</translation>
-    </message>
-    <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Se están grabando acciones.</translation>
-    </message>
-    <message>
-        <source>The screen is larger than the canvas.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>La pantalla es más grande que el lienzo.</translation>
-    </message>
-    <message>
-        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>La pantalla tiene %1 puntos; el lienzo, %2. Lo que haga más allá del lienzo se graba en su borde.</translation>
-    </message>
-    <message>
-        <source>Keep Canvas</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Conservar lienzo</translation>
-    </message>
-    <message>
-        <source>Recording starts in %1…</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>La grabación empieza en %1…</translation>
-    </message>
-    <message>
-        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>No se pudo iniciar la grabación: conceda a Velvane la supervisión de entrada en los ajustes del sistema.</translation>
-    </message>
-    <message>
-        <source>Recording stopped — no actions captured.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>Grabación detenida: no se captó ninguna acción.</translation>
-    </message>
-    <message>
-        <source>Recorded %1 step%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1 paso grabado%2.</translation>
-    </message>
-    <message>
-        <source>Recorded %1 steps%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1 pasos grabados%2.</translation>
-    </message>
-    <message>
-        <source> with screen recording</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation> con grabación de pantalla</translation>
-    </message>
-    <message>
-        <source>No display to record</source>
-        <extracomment>RunRecorder</extracomment>
-        <translation>No hay pantalla que grabar</translation>
-    </message>
-    <message>
-        <source>Watchdog</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Vigilante</translation>
-    </message>
-    <message>
-        <source>releases what is held if Velvane ends</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>suelta lo pulsado si Velvane termina</translation>
-    </message>
-    <message>
-        <source>missing</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>falta</translation>
-    </message>
-    <message>
-        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Instale Velvane de nuevo: velvane-watchdog no está a su lado.</translation>
-    </message>
-    <message>
-        <source>Session bus</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Bus de sesión</translation>
-    </message>
-    <message>
-        <source>answers</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>responde</translation>
-    </message>
-    <message>
-        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Inicie Velvane desde el escritorio o bajo dbus-run-session: sin él, las ventanas no se pueden compartir con un Velvane en ejecución.</translation>
-    </message>
-    <message>
-        <source>Desktop portal</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Portal de escritorio</translation>
-    </message>
-    <message>
-        <source>there</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>presente</translation>
-    </message>
-    <message>
-        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Instale xdg-desktop-portal y el de su escritorio para que el modo claro u oscuro siga al sistema.</translation>
-    </message>
-    <message>
-        <source>File manager</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Gestor archivos</translation>
-    </message>
-    <message>
-        <source>shows a file in its folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>muestra un archivo en su carpeta</translation>
-    </message>
-    <message>
-        <source>opens a file's folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>abre la carpeta de un archivo</translation>
-    </message>
-    <message>
-        <source>none can be asked</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>no se puede consultar ninguno</translation>
-    </message>
-    <message>
-        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Instale un gestor de archivos y xdg-utils para poder mostrar las grabaciones.</translation>
-    </message>
-    <message>
-        <source>lacks %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>falta %1</translation>
-    </message>
-    <message>
-        <source>Enable %1 in the X server: without it %2.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Active %1 en el servidor X: sin ello %2.</translation>
-    </message>
-    <message>
-        <source>Keyboard</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Teclado</translation>
-    </message>
-    <message>
-        <source>cannot be read</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>no se puede leer</translation>
-    </message>
-    <message>
-        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Active XKEYBOARD en el servidor X: sin ello nada se escribe como está.</translation>
-    </message>
-    <message>
-        <source>layout not named</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>distribución sin nombre</translation>
-    </message>
-    <message>
-        <source>layout %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>distribución %1</translation>
-    </message>
-    <message>
-        <source>Posting</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Envío</translation>
-    </message>
-    <message>
-        <source>nothing is clicked or typed</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>no se hace clic ni se escribe nada</translation>
-    </message>
-    <message>
-        <source>Listening</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Escucha</translation>
-    </message>
-    <message>
-        <source>actions are not heard and Esc does not stop a run</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>no se oyen las acciones y Esc no detiene una ejecución</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Imágenes</translation>
-    </message>
-    <message>
-        <source>the screen is neither shown nor recorded</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>la pantalla ni se muestra ni se graba</translation>
-    </message>
-    <message>
-        <source>Fast pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Imágenes rápidas</translation>
-    </message>
-    <message>
-        <source>pictures of the screen come slowly</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>las imágenes de la pantalla llegan despacio</translation>
-    </message>
-    <message>
-        <source>Displays</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Pantallas</translation>
-    </message>
-    <message>
-        <source>several displays are taken for one</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>varias pantallas se toman por una sola</translation>
-    </message>
-    <message>
-        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
-        <extracomment>LocationPicker</extracomment>
-        <translation>Coloque el puntero sobre el objetivo: captura en %1 s · Esc para cancelar</translation>
-    </message>
-    <message>
-        <source>Pick on screen — position the cursor over the target.</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Elegir en pantalla: coloque el puntero sobre el objetivo.</translation>
-    </message>
-    <message>
-        <source>Pick Location</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Elegir posición</translation>
-    </message>
-    <message>
-        <source>Captured target at (%1, %2)</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Objetivo captado en (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <extracomment>Autosave, RestorePanel</extracomment>
-        <translation>Restaurar</translation>
-    </message>
-    <message>
-        <source>Velvane did not end properly the last time.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Velvane no terminó correctamente la última vez.</translation>
-    </message>
-    <message>
-        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Estas demos tienen cambios sin guardar. Lo que no marque se ofrecerá de nuevo en el próximo inicio.</translation>
-    </message>
-    <message>
-        <source>Demos with changes that were not saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Demos con cambios sin guardar</translation>
-    </message>
-    <message>
-        <source>Check the demos that you mean</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Marque las demos que desee</translation>
-    </message>
-    <message>
-        <source>never saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>nunca guardada</translation>
-    </message>
-    <message>
-        <source>%1 — %2, %3</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>%1 — %2, %3</translation>
-    </message>
-    <message>
-        <source>Open the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Abrir las demos marcadas</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Más tarde</translation>
-    </message>
-    <message>
-        <source>Ask again at the next start</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Volver a preguntar en el próximo inicio</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Give up the changes of the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Renunciar a los cambios de las demos marcadas</translation>
-    </message>
-    <message>
-        <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>Grabación detenida: %1</translation>
-    </message>
-    <message>
-        <source>Recording saved to %1%2 — revealed in Finder.</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>Grabación guardada en %1%2: se muestra en el gestor de archivos.</translation>
-    </message>
-    <message>
-        <source> (window not found — recorded full screen)</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation> (ventana no encontrada: se grabó la pantalla completa)</translation>
     </message>
 </context>
 </TS>

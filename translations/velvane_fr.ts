@@ -4,6 +4,11 @@
 <context>
     <name>Velvane</name>
     <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● Enregistrement — Échap pour arrêter</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <extracomment>AddStepGrid, StepList</extracomment>
         <translation>Ajouter %1</translation>
@@ -32,6 +37,11 @@
         <source>No applications found</source>
         <extracomment>AppMenu</extracomment>
         <translation>Aucune application trouvée</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>Restaurer</translation>
     </message>
     <message>
         <source>No recording frame to freeze yet.</source>
@@ -128,6 +138,11 @@ film H.264 ou exécutée sur le vrai bureau.</translation>
         <translation>Démos à ouvrir dans l’éditeur</translation>
     </message>
     <message>
+        <source>Open them in a process of its own, even when Velvane runs already</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>Les ouvrir dans un processus à part, même si Velvane est déjà lancé</translation>
+    </message>
+    <message>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>La langue de tous les textes, p. ex. de</translation>
@@ -153,13 +168,23 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>(see velvane --help)</source>
-        <extracomment>CommandLine</extracomment>
+        <extracomment>CommandLine, cli</extracomment>
         <translation>(voir velvane --help)</translation>
     </message>
     <message>
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>Des actions sont en cours d’enregistrement.</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <extracomment>DemoDocument</extracomment>
+        <translation>ne peut pas être écrit : %1</translation>
     </message>
     <message>
         <source>Change Canvas</source>
@@ -268,7 +293,7 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Match Screen</source>
-        <extracomment>DemoSettingsForm</extracomment>
+        <extracomment>DemoSettingsForm, EditorWindow</extracomment>
         <translation>Comme l’écran</translation>
     </message>
     <message>
@@ -547,6 +572,21 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Garder ma version</translation>
     </message>
     <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>L’écran est plus grand que le canevas.</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>L’écran fait %1 points, le canevas %2. Ce que vous faites hors du canevas est enregistré à son bord.</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Garder le canevas</translation>
+    </message>
+    <message>
         <source>Do you want to save the changes to “%1”?</source>
         <extracomment>EditorWindow</extracomment>
         <translation>Voulez-vous enregistrer les modifications de « %1 » ?</translation>
@@ -742,6 +782,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>%1 étapes sélectionnées</translation>
     </message>
     <message>
+        <source>not a property list</source>
+        <extracomment>KeptDemo, velvane</extracomment>
+        <translation>pas une liste de propriétés</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <extracomment>KeptSession</extracomment>
+        <translation>le dossier %1 ne peut pas être créé</translation>
+    </message>
+    <message>
         <source>Driving the real cursor — bring your target app forward</source>
         <extracomment>LiveOverlay</extracomment>
         <translation>Pilotage du vrai pointeur — mettez l’app visée au premier plan</translation>
@@ -773,7 +823,7 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Grant Accessibility permission to Velvane, then run again.</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Accordez à Velvane l’autorisation d’accessibilité, puis relancez.</translation>
     </message>
     <message>
@@ -782,14 +832,19 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>La touche Échap ne peut pas être surveillée ici, rien n’a donc été exécuté.</translation>
     </message>
     <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>Enregistrement arrêté : %1</translation>
+    </message>
+    <message>
         <source>Couldn't start recording: %1</source>
         <extracomment>LiveRunController</extracomment>
         <translation>Impossible de démarrer l’enregistrement : %1</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record the screen yet.</source>
+        <source>Live run stopped: the display has gone.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>Cette version de Velvane ne sait pas encore enregistrer l’écran.</translation>
+        <translation>Exécution en direct arrêtée : l’écran a disparu.</translation>
     </message>
     <message>
         <source>Live run stopped.</source>
@@ -802,9 +857,24 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Exécution en direct terminée.</translation>
     </message>
     <message>
-        <source>Live run stopped: the display has gone.</source>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>Exécution en direct arrêtée : l’écran a disparu.</translation>
+        <translation>Enregistrement placé dans %1%2 — montré dans le gestionnaire de fichiers.</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation> (fenêtre introuvable — écran entier enregistré)</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>Placez le pointeur sur la cible — relevé dans %1 s · Échap pour annuler</translation>
+    </message>
+    <message>
+        <source>another user's link stands in its place</source>
+        <extracomment>MovieFile, WholeFile</extracomment>
+        <translation>le lien d’un autre utilisateur se trouve à sa place</translation>
     </message>
     <message>
         <source>The movie has no duration.</source>
@@ -847,9 +917,19 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>↑ et ↓ modifient de 1 ; avec Maj, ou avec Page préc. et suiv., de 10.</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot pick locations yet.</source>
+        <source>Pick on screen — position the cursor over the target.</source>
         <extracomment>PickLocationController</extracomment>
-        <translation>Cette version de Velvane ne sait pas encore relever de position.</translation>
+        <translation>Choix à l’écran — placez le pointeur sur la cible.</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Choisir la position</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>Cible relevée en (%1, %2)</translation>
     </message>
     <message>
         <source>Nothing here decodes %1.</source>
@@ -898,7 +978,7 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Velvane</source>
-        <extracomment>Question, StartWindow</extracomment>
+        <extracomment>Question, RestorePanel, StartWindow</extracomment>
         <translation>Velvane</translation>
     </message>
     <message>
@@ -922,9 +1002,39 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>d MMMM yyyy</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record actions yet.</source>
+        <source>Recording starts in %1…</source>
         <extracomment>RecordActionsController</extracomment>
-        <translation>Cette version de Velvane ne sait pas encore enregistrer d’actions.</translation>
+        <translation>L’enregistrement commence dans %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Impossible de démarrer l’enregistrement — accordez à Velvane la surveillance des entrées dans les réglages du système.</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>Enregistrement arrêté — aucune action captée.</translation>
+    </message>
+    <message>
+        <source>Record Actions</source>
+        <extracomment>RecordActionsController, StepCommands</extracomment>
+        <translation>Enregistrer des actions</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 étape enregistrée%2.</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1 étapes enregistrées%2.</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation> avec l’enregistrement de l’écran</translation>
     </message>
     <message>
         <source>This demo has no screen recording yet.</source>
@@ -940,6 +1050,66 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Couldn't read the screen recording (%1).</source>
         <extracomment>RecordingBackdrop</extracomment>
         <translation>Impossible de lire l’enregistrement de l’écran (%1).</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane ne s’est pas terminé correctement la dernière fois.</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Ces démos ont des modifications non enregistrées. Ce qui n’est pas coché sera proposé de nouveau au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Démos aux modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Cochez les démos concernées</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>jamais enregistrée</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Ouvrir les démos cochées</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Redemander au prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Abandonner les modifications des démos cochées</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>Aucun écran à enregistrer</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1502,6 +1672,26 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Changer d’application ou déplacer ses fenêtres peut échouer ; utilisez un autre gestionnaire de fenêtres.</translation>
     </message>
     <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Gardien</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>relâche ce qui est maintenu si Velvane s’arrête</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>absent</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Réinstallez Velvane : velvane-watchdog n’est pas à côté.</translation>
+    </message>
+    <message>
         <source>running</source>
         <extracomment>X11Desktop</extracomment>
         <translation>en cours</translation>
@@ -1577,6 +1767,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>sans nom</translation>
     </message>
     <message>
+        <source>the display %1 cannot be opened</source>
+        <extracomment>cli</extracomment>
+        <translation>l’écran %1 ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on</source>
+        <extracomment>cli</extracomment>
+        <translation>il n’y a pas d’écran où ouvrir une fenêtre</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <extracomment>std</extracomment>
         <translation>%1 s</translation>
@@ -1640,6 +1840,36 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>&amp;Help</source>
         <extracomment>velvane</extracomment>
         <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <extracomment>velvane</extracomment>
+        <translation>est un dossier</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <extracomment>velvane</extracomment>
+        <translation>n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <extracomment>velvane</extracomment>
+        <translation>fichier inexistant</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>ne peut pas être ouvert : %1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>trop grand, %1 octets</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>ne peut pas être lu : %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -1772,14 +2002,69 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Le flux de mises à jour n’a pas de « %1 » valide.</translation>
     </message>
     <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Bus de session</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>répond</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <extracomment>SessionServices, cli</extracomment>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Lancez Velvane depuis le bureau, ou sous dbus-run-session : sans lui, les fenêtres ne peuvent pas être partagées avec un Velvane déjà lancé.</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Portail de bureau</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>présent</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installez xdg-desktop-portal et celui de votre bureau, pour que clair et sombre suivent le système.</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Gestion. fichiers</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>montre un fichier dans son dossier</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ouvre le dossier d’un fichier</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>aucun ne répond</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Installez un gestionnaire de fichiers et xdg-utils, pour que les enregistrements puissent être montrés.</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>Ajouter une étape</translation>
-    </message>
-    <message>
-        <source>Record Actions</source>
-        <extracomment>StepCommands</extracomment>
-        <translation>Enregistrer des actions</translation>
     </message>
     <message>
         <source>Recording — Esc to Stop</source>
@@ -1840,6 +2125,91 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Zoom 4×</source>
         <extracomment>ViewCommands</extracomment>
         <translation>Agrandir 4×</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>il manque %1</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Activez %1 dans le serveur X : sans cela, %2.</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Activez XKEYBOARD dans le serveur X : sans cela, rien n’est saisi tel qu’écrit.</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>disposition sans nom</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>disposition %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Envoi</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>rien n’est cliqué ni saisi</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Écoute</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>les actions ne sont pas entendues et Échap n’arrête pas une exécution</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>l’écran n’est ni montré ni enregistré</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Images rapides</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>les images de l’écran arrivent lentement</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Écrans</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>plusieurs écrans passent pour un seul</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -1904,6 +2274,16 @@ EXEMPLE
   velvane convert tour.xml tour.velvane</translation>
     </message>
     <message>
+        <source>%1: is not writable</source>
+        <extracomment>cli</extracomment>
+        <translation>%1 : n’est pas accessible en écriture</translation>
+    </message>
+    <message>
+        <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
+        <extracomment>cli</extracomment>
+        <translation>L’écran (%1) est plus grand que le canevas (%2) : ce qui est au-delà est enregistré à son bord.</translation>
+    </message>
+    <message>
         <source>%1 frames per second</source>
         <extracomment>cli</extracomment>
         <translation>%1 images par seconde</translation>
@@ -1912,11 +2292,6 @@ EXEMPLE
         <source>Backdrop</source>
         <extracomment>cli</extracomment>
         <translation>Arrière-plan</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <extracomment>cli</extracomment>
-        <translation>aucun</translation>
     </message>
     <message>
         <source>picture of %1 × %2</source>
@@ -1952,6 +2327,39 @@ EXEMPLE
         <source>there is no step “%1”</source>
         <extracomment>cli</extracomment>
         <translation>il n’y a pas d’étape « %1 »</translation>
+    </message>
+    <message>
+        <source>Say what this session can and cannot do, with remedies</source>
+        <extracomment>cli</extracomment>
+        <translation>Dire ce que cette session peut faire ou non, avec les remèdes</translation>
+    </message>
+    <message>
+        <source>Print one JSON array instead of lines</source>
+        <extracomment>cli</extracomment>
+        <translation>Écrire un tableau JSON au lieu de lignes</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Say what this session can and cannot do, a line for each capability, with
+  the remedy below what is missing. Nothing is changed and nothing is shown on
+  the screen.
+
+JSON
+  An object for each capability: what, works, state, remedy or null.
+
+EXAMPLE
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</source>
+        <extracomment>cli</extracomment>
+        <translation>DESCRIPTION
+  Dit ce que cette session peut faire ou non, une ligne par capacité, avec le
+  remède sous ce qui manque. Rien n’est modifié et rien n’est montré à
+  l’écran.
+
+JSON
+  Un objet par capacité : what, works, state, remedy ou null.
+
+EXEMPLE
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</translation>
     </message>
     <message>
         <source>frames</source>
@@ -2043,21 +2451,28 @@ EXEMPLE
         <translation>L’image à écrire</translation>
     </message>
     <message>
+        <source>Make it no wider and no higher than this</source>
+        <extracomment>cli</extracomment>
+        <translation>Ne pas la faire plus large ni plus haute que cela</translation>
+    </message>
+    <message>
         <source>DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
-  last instant.
+  last instant. With --size, a larger picture is scaled down.
 
-EXAMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png</source>
+EXAMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</source>
         <extracomment>cli</extracomment>
         <translation>DESCRIPTION
   Rend un instant d’une démo en image PNG de la taille du canevas : ce qu’un
   film montre à cet instant. Un instant hors de la démo montre son premier ou
-  son dernier moment.
+  son dernier moment. Avec --size, une image plus grande est réduite.
 
-EXEMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png</translation>
+EXEMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</translation>
     </message>
     <message>
         <source>Show what a demo holds and when it happens</source>
@@ -2145,6 +2560,43 @@ EXEMPLE
   velvane new tour.velvane</translation>
     </message>
     <message>
+        <source>Record real mouse and keyboard actions into a demo</source>
+        <extracomment>cli</extracomment>
+        <translation>Enregistrer de vraies actions de souris et de clavier dans une démo</translation>
+    </message>
+    <message>
+        <source>The demo that the steps are appended to</source>
+        <extracomment>cli</extracomment>
+        <translation>La démo à laquelle les étapes sont ajoutées</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Record what is done with the mouse and the keyboard, after a countdown of
+  2.1 seconds, until Esc is pressed, whatever has the keyboard; Ctrl-C and
+  SIGTERM end it too. Nothing is kept from the programs in use. The steps are
+  appended to the demo, and the demo is saved.
+
+  The outcome goes to standard output. The exit status is 0, also when nothing
+  was recorded and the demo is left as it was, and 1 when it could not begin or
+  the demo could not be saved.
+
+EXAMPLE
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</source>
+        <extracomment>cli</extracomment>
+        <translation>DESCRIPTION
+  Enregistre ce qui est fait à la souris et au clavier, après un décompte de
+  2,1 secondes, jusqu’à un appui sur Échap, où que soit le clavier ; Ctrl-C et
+  SIGTERM y mettent fin aussi. Rien n’est soustrait aux programmes utilisés.
+  Les étapes sont ajoutées à la démo, qui est enregistrée.
+
+  Le résultat va sur la sortie standard. Le code est 0, même si rien n’a été
+  enregistré et que la démo reste telle quelle, et 1 si cela n’a pas pu
+  commencer ou si la démo n’a pas pu être enregistrée.
+
+EXEMPLE
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</translation>
+    </message>
+    <message>
         <source>Perform a demo on the real desktop</source>
         <extracomment>cli</extracomment>
         <translation>Exécuter une démo sur le vrai bureau</translation>
@@ -2188,7 +2640,11 @@ EXEMPLE
   STEP is a step's id or its number, as “velvane inspect” shows them. The
   cursor then begins where the demo would have left it.
 
-  The outcome goes to standard output. The exit status is 0 when the demo was
+  The outcome goes to standard output, and so does the path of the movie of a
+  recorded run, below it. Movies are put into Movies/Velvane in the home
+  folder. With “window” what the window of the demo's one application covers
+  is recorded; where there is none, or where the demo switches between
+  several, the whole screen is. The exit status is 0 when the demo was
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE
@@ -2202,11 +2658,160 @@ EXAMPLE
   STEP est l’identifiant ou le numéro d’une étape, comme les montre
   « velvane inspect ». Le pointeur part alors d’où la démo l’aurait laissé.
 
-  Le résultat va sur la sortie standard. Le code est 0 si la démo est allée à
-  son terme, 1 si elle a été arrêtée ou n’a pas pu commencer.
+  Le résultat va sur la sortie standard, suivi du chemin du film d’une
+  exécution enregistrée. Les films vont dans Movies/Velvane du dossier
+  personnel. Avec « window », ce que couvre la fenêtre de l’unique application
+  de la démo est enregistré ; s’il n’y en a pas, ou si la démo passe entre
+  plusieurs, c’est l’écran entier. Le code est 0 si la démo est allée à son
+  terme, 1 si elle a été arrêtée ou n’a pas pu commencer.
 
 EXEMPLE
   velvane run tour.velvane --from 4 --hide-others</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <extracomment>cli</extracomment>
+        <translation>Serveur graphique</translation>
+    </message>
+    <message>
+        <source>X11 (%1), which does not answer</source>
+        <extracomment>cli</extracomment>
+        <translation>X11 (%1), qui ne répond pas</translation>
+    </message>
+    <message>
+        <source>Start this in the desktop session, where DISPLAY and XAUTHORITY are right.</source>
+        <extracomment>cli</extracomment>
+        <translation>Lancez ceci dans la session de bureau, où DISPLAY et XAUTHORITY sont corrects.</translation>
+    </message>
+    <message>
+        <source>Rendering needs none; the editor does: start it in a desktop session.</source>
+        <extracomment>cli</extracomment>
+        <translation>Le rendu n’en a pas besoin, l’éditeur si : lancez-le dans une session de bureau.</translation>
+    </message>
+    <message>
+        <source>works</source>
+        <extracomment>cli</extracomment>
+        <translation>fonctionne</translation>
+    </message>
+    <message>
+        <source>not here</source>
+        <extracomment>cli</extracomment>
+        <translation>pas ici</translation>
+    </message>
+    <message>
+        <source>Caption font</source>
+        <extracomment>cli</extracomment>
+        <translation>Police des légendes</translation>
+    </message>
+    <message>
+        <source>%1, semibold</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, demi-gras</translation>
+    </message>
+    <message>
+        <source>Inter is missing, another sans-serif stands in</source>
+        <extracomment>cli</extracomment>
+        <translation>Inter manque, une autre police sans empattement la remplace</translation>
+    </message>
+    <message>
+        <source>Install %1.</source>
+        <extracomment>cli</extracomment>
+        <translation>Installez %1.</translation>
+    </message>
+    <message>
+        <source>no font has all of %1</source>
+        <extracomment>cli</extracomment>
+        <translation>aucune police n’a tous les signes %1</translation>
+    </message>
+    <message>
+        <source>Backdrop pictures</source>
+        <extracomment>cli</extracomment>
+        <translation>Images de fond</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <extracomment>cli</extracomment>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Log in with an X11 session: in a Wayland session demos can be composed and rendered, not run or recorded.</source>
+        <extracomment>cli</extracomment>
+        <translation>Ouvrez une session X11 : dans une session Wayland, les démos peuvent être composées et rendues, pas exécutées ni enregistrées.</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <extracomment>cli</extracomment>
+        <translation>non indiquée</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, %2 libres</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <extracomment>cli</extracomment>
+        <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>Make room there: a recording ends when the disk is full.</source>
+        <extracomment>cli</extracomment>
+        <translation>Faites-y de la place : un enregistrement s’arrête quand le disque est plein.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <extracomment>cli</extracomment>
+        <translation>%1 n’est pas accessible en écriture</translation>
+    </message>
+    <message>
+        <source>Make %1 a folder that you may write to.</source>
+        <extracomment>cli</extracomment>
+        <translation>Faites de %1 un dossier où vous pouvez écrire.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <extracomment>cli</extracomment>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read as they are written.</source>
+        <extracomment>cli</extracomment>
+        <translation>Réglez LANG sur une locale UTF-8, comme C.UTF-8, pour que noms de fichiers et textes soient lus tels qu’écrits.</translation>
+    </message>
+    <message>
+        <source>Input posting</source>
+        <extracomment>cli</extracomment>
+        <translation>Envoi d’entrées</translation>
+    </message>
+    <message>
+        <source>Input listening</source>
+        <extracomment>cli</extracomment>
+        <translation>Écoute d’entrées</translation>
+    </message>
+    <message>
+        <source>Screen capture</source>
+        <extracomment>cli</extracomment>
+        <translation>Capture d’écran</translation>
+    </message>
+    <message>
+        <source>H.264 encoder</source>
+        <extracomment>cli</extracomment>
+        <translation>Encodeur H.264</translation>
+    </message>
+    <message>
+        <source>Movie files</source>
+        <extracomment>cli</extracomment>
+        <translation>Fichiers de films</translation>
+    </message>
+    <message>
+        <source>Shortcut glyphs</source>
+        <extracomment>cli</extracomment>
+        <translation>Signes de touches</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <extracomment>cli</extracomment>
+        <translation>Émojis</translation>
     </message>
     <message>
         <source>Show what a demo shows at given moments</source>
@@ -2241,321 +2846,6 @@ EXAMPLE
 
 EXEMPLE
   velvane state tour.velvane --at 0 --at 2.5</translation>
-    </message>
-    <message>
-        <source>● Recording — Esc to stop</source>
-        <extracomment>ActionRecorder, RecordActionsController</extracomment>
-        <translation>● Enregistrement — Échap pour arrêter</translation>
-    </message>
-    <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Des actions sont en cours d’enregistrement.</translation>
-    </message>
-    <message>
-        <source>The screen is larger than the canvas.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>L’écran est plus grand que le canevas.</translation>
-    </message>
-    <message>
-        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>L’écran fait %1 points, le canevas %2. Ce que vous faites hors du canevas est enregistré à son bord.</translation>
-    </message>
-    <message>
-        <source>Keep Canvas</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Garder le canevas</translation>
-    </message>
-    <message>
-        <source>Recording starts in %1…</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>L’enregistrement commence dans %1…</translation>
-    </message>
-    <message>
-        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>Impossible de démarrer l’enregistrement — accordez à Velvane la surveillance des entrées dans les réglages du système.</translation>
-    </message>
-    <message>
-        <source>Recording stopped — no actions captured.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>Enregistrement arrêté — aucune action captée.</translation>
-    </message>
-    <message>
-        <source>Recorded %1 step%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1 étape enregistrée%2.</translation>
-    </message>
-    <message>
-        <source>Recorded %1 steps%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1 étapes enregistrées%2.</translation>
-    </message>
-    <message>
-        <source> with screen recording</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation> avec l’enregistrement de l’écran</translation>
-    </message>
-    <message>
-        <source>No display to record</source>
-        <extracomment>RunRecorder</extracomment>
-        <translation>Aucun écran à enregistrer</translation>
-    </message>
-    <message>
-        <source>Watchdog</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Gardien</translation>
-    </message>
-    <message>
-        <source>releases what is held if Velvane ends</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>relâche ce qui est maintenu si Velvane s’arrête</translation>
-    </message>
-    <message>
-        <source>missing</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>absent</translation>
-    </message>
-    <message>
-        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Réinstallez Velvane : velvane-watchdog n’est pas à côté.</translation>
-    </message>
-    <message>
-        <source>Session bus</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Bus de session</translation>
-    </message>
-    <message>
-        <source>answers</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>répond</translation>
-    </message>
-    <message>
-        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Lancez Velvane depuis le bureau, ou sous dbus-run-session : sans lui, les fenêtres ne peuvent pas être partagées avec un Velvane déjà lancé.</translation>
-    </message>
-    <message>
-        <source>Desktop portal</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Portail de bureau</translation>
-    </message>
-    <message>
-        <source>there</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>présent</translation>
-    </message>
-    <message>
-        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Installez xdg-desktop-portal et celui de votre bureau, pour que clair et sombre suivent le système.</translation>
-    </message>
-    <message>
-        <source>File manager</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Gestion. fichiers</translation>
-    </message>
-    <message>
-        <source>shows a file in its folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>montre un fichier dans son dossier</translation>
-    </message>
-    <message>
-        <source>opens a file's folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>ouvre le dossier d’un fichier</translation>
-    </message>
-    <message>
-        <source>none can be asked</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>aucun ne répond</translation>
-    </message>
-    <message>
-        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Installez un gestionnaire de fichiers et xdg-utils, pour que les enregistrements puissent être montrés.</translation>
-    </message>
-    <message>
-        <source>lacks %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>il manque %1</translation>
-    </message>
-    <message>
-        <source>Enable %1 in the X server: without it %2.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Activez %1 dans le serveur X : sans cela, %2.</translation>
-    </message>
-    <message>
-        <source>Keyboard</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Clavier</translation>
-    </message>
-    <message>
-        <source>cannot be read</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>illisible</translation>
-    </message>
-    <message>
-        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Activez XKEYBOARD dans le serveur X : sans cela, rien n’est saisi tel qu’écrit.</translation>
-    </message>
-    <message>
-        <source>layout not named</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>disposition sans nom</translation>
-    </message>
-    <message>
-        <source>layout %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>disposition %1</translation>
-    </message>
-    <message>
-        <source>Posting</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Envoi</translation>
-    </message>
-    <message>
-        <source>nothing is clicked or typed</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>rien n’est cliqué ni saisi</translation>
-    </message>
-    <message>
-        <source>Listening</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Écoute</translation>
-    </message>
-    <message>
-        <source>actions are not heard and Esc does not stop a run</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>les actions ne sont pas entendues et Échap n’arrête pas une exécution</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Images</translation>
-    </message>
-    <message>
-        <source>the screen is neither shown nor recorded</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>l’écran n’est ni montré ni enregistré</translation>
-    </message>
-    <message>
-        <source>Fast pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Images rapides</translation>
-    </message>
-    <message>
-        <source>pictures of the screen come slowly</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>les images de l’écran arrivent lentement</translation>
-    </message>
-    <message>
-        <source>Displays</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Écrans</translation>
-    </message>
-    <message>
-        <source>several displays are taken for one</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>plusieurs écrans passent pour un seul</translation>
-    </message>
-    <message>
-        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
-        <extracomment>LocationPicker</extracomment>
-        <translation>Placez le pointeur sur la cible — relevé dans %1 s · Échap pour annuler</translation>
-    </message>
-    <message>
-        <source>Pick on screen — position the cursor over the target.</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Choix à l’écran — placez le pointeur sur la cible.</translation>
-    </message>
-    <message>
-        <source>Pick Location</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Choisir la position</translation>
-    </message>
-    <message>
-        <source>Captured target at (%1, %2)</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>Cible relevée en (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <extracomment>Autosave, RestorePanel</extracomment>
-        <translation>Restaurer</translation>
-    </message>
-    <message>
-        <source>Velvane did not end properly the last time.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Velvane ne s’est pas terminé correctement la dernière fois.</translation>
-    </message>
-    <message>
-        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Ces démos ont des modifications non enregistrées. Ce qui n’est pas coché sera proposé de nouveau au prochain démarrage.</translation>
-    </message>
-    <message>
-        <source>Demos with changes that were not saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Démos aux modifications non enregistrées</translation>
-    </message>
-    <message>
-        <source>Check the demos that you mean</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Cochez les démos concernées</translation>
-    </message>
-    <message>
-        <source>never saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>jamais enregistrée</translation>
-    </message>
-    <message>
-        <source>%1 — %2, %3</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>%1 — %2, %3</translation>
-    </message>
-    <message>
-        <source>Open the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Ouvrir les démos cochées</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Plus tard</translation>
-    </message>
-    <message>
-        <source>Ask again at the next start</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Redemander au prochain démarrage</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Abandonner</translation>
-    </message>
-    <message>
-        <source>Give up the changes of the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Abandonner les modifications des démos cochées</translation>
-    </message>
-    <message>
-        <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>Enregistrement arrêté : %1</translation>
-    </message>
-    <message>
-        <source>Recording saved to %1%2 — revealed in Finder.</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>Enregistrement placé dans %1%2 — montré dans le gestionnaire de fichiers.</translation>
-    </message>
-    <message>
-        <source> (window not found — recorded full screen)</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation> (fenêtre introuvable — écran entier enregistré)</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,11 @@
 <context>
     <name>Velvane</name>
     <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● 記録中 — Escキーで停止</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <extracomment>AddStepGrid, StepList</extracomment>
         <translation>%1を追加</translation>
@@ -32,6 +37,11 @@
         <source>No applications found</source>
         <extracomment>AppMenu</extracomment>
         <translation>アプリが見つかりません</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>復元</translation>
     </message>
     <message>
         <source>No recording frame to freeze yet.</source>
@@ -128,6 +138,11 @@ H.264 movie or performed on the real desktop.</source>
         <translation>エディターで開くデモ</translation>
     </message>
     <message>
+        <source>Open them in a process of its own, even when Velvane runs already</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>Velvaneが実行中でも、別のプロセスで開く</translation>
+    </message>
+    <message>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>すべてのテキストの言語(例: de)</translation>
@@ -153,13 +168,23 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>(see velvane --help)</source>
-        <extracomment>CommandLine</extracomment>
+        <extracomment>CommandLine, cli</extracomment>
         <translation>(velvane --help を参照)</translation>
     </message>
     <message>
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>操作を記録しています。</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <extracomment>DemoDocument</extracomment>
+        <translation>書き込めません: %1</translation>
     </message>
     <message>
         <source>Change Canvas</source>
@@ -268,7 +293,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Match Screen</source>
-        <extracomment>DemoSettingsForm</extracomment>
+        <extracomment>DemoSettingsForm, EditorWindow</extracomment>
         <translation>画面に合わせる</translation>
     </message>
     <message>
@@ -547,6 +572,21 @@ Results go to standard output, messages and progress to standard error.
         <translation>こちらの版を残す</translation>
     </message>
     <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>画面がキャンバスより大きくなっています。</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>画面は%1ポイント、キャンバスは%2ポイントです。キャンバスの外での操作はその端に記録されます。</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>キャンバスを維持</translation>
+    </message>
+    <message>
         <source>Do you want to save the changes to “%1”?</source>
         <extracomment>EditorWindow</extracomment>
         <translation>「%1」への変更を保存しますか？</translation>
@@ -742,6 +782,16 @@ Results go to standard output, messages and progress to standard error.
         <translation>%1個のステップを選択中</translation>
     </message>
     <message>
+        <source>not a property list</source>
+        <extracomment>KeptDemo, velvane</extracomment>
+        <translation>プロパティリストではありません</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <extracomment>KeptSession</extracomment>
+        <translation>フォルダー%1を作成できません</translation>
+    </message>
+    <message>
         <source>Driving the real cursor — bring your target app forward</source>
         <extracomment>LiveOverlay</extracomment>
         <translation>実際のカーソルを操作します。対象のアプリを前面に出してください</translation>
@@ -773,7 +823,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Grant Accessibility permission to Velvane, then run again.</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Velvaneにアクセシビリティの権限を与えてから、もう一度実行してください。</translation>
     </message>
     <message>
@@ -782,14 +832,19 @@ Results go to standard output, messages and progress to standard error.
         <translation>ここではEscキーを監視できないため、何も実行しませんでした。</translation>
     </message>
     <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>録画を停止しました: %1</translation>
+    </message>
+    <message>
         <source>Couldn't start recording: %1</source>
         <extracomment>LiveRunController</extracomment>
         <translation>録画を開始できませんでした: %1</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record the screen yet.</source>
+        <source>Live run stopped: the display has gone.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>このバージョンのVelvaneはまだ画面を録画できません。</translation>
+        <translation>ライブ実行を停止しました: ディスプレイがなくなりました。</translation>
     </message>
     <message>
         <source>Live run stopped.</source>
@@ -802,9 +857,24 @@ Results go to standard output, messages and progress to standard error.
         <translation>ライブ実行が完了しました。</translation>
     </message>
     <message>
-        <source>Live run stopped: the display has gone.</source>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>ライブ実行を停止しました: ディスプレイがなくなりました。</translation>
+        <translation>録画を%1%2に保存し、ファイルマネージャーに表示しました。</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>(ウィンドウが見つからないため全画面を録画)</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>カーソルをターゲットに合わせてください — %1秒後に取り込みます · Escキーでキャンセル</translation>
+    </message>
+    <message>
+        <source>another user's link stands in its place</source>
+        <extracomment>MovieFile, WholeFile</extracomment>
+        <translation>その場所に別のユーザーのリンクがあります</translation>
     </message>
     <message>
         <source>The movie has no duration.</source>
@@ -847,9 +917,19 @@ Results go to standard output, messages and progress to standard error.
         <translation>↑と↓で1、Shiftまたは Page Up / Page Down で10ずつ変更します。</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot pick locations yet.</source>
+        <source>Pick on screen — position the cursor over the target.</source>
         <extracomment>PickLocationController</extracomment>
-        <translation>このバージョンのVelvaneはまだ位置を選べません。</translation>
+        <translation>画面上で選択 — カーソルをターゲットに合わせてください。</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>位置を選択</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>(%1, %2)のターゲットを取り込みました</translation>
     </message>
     <message>
         <source>Nothing here decodes %1.</source>
@@ -898,7 +978,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Velvane</source>
-        <extracomment>Question, StartWindow</extracomment>
+        <extracomment>Question, RestorePanel, StartWindow</extracomment>
         <translation>Velvane</translation>
     </message>
     <message>
@@ -922,9 +1002,39 @@ Results go to standard output, messages and progress to standard error.
         <translation>yyyy年M月d日</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record actions yet.</source>
+        <source>Recording starts in %1…</source>
         <extracomment>RecordActionsController</extracomment>
-        <translation>このバージョンのVelvaneはまだ操作を記録できません。</translation>
+        <translation>記録開始まで %1…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>記録を開始できませんでした。システム設定でVelvaneに入力監視を許可してください。</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>記録を停止しました。操作はありませんでした。</translation>
+    </message>
+    <message>
+        <source>Record Actions</source>
+        <extracomment>RecordActionsController, StepCommands</extracomment>
+        <translation>操作を記録</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1個のステップ%2を記録しました。</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>%1個のステップ%2を記録しました。</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>(画面の録画つき)</translation>
     </message>
     <message>
         <source>This demo has no screen recording yet.</source>
@@ -940,6 +1050,66 @@ Results go to standard output, messages and progress to standard error.
         <source>Couldn't read the screen recording (%1).</source>
         <extracomment>RecordingBackdrop</extracomment>
         <translation>画面の録画を読み込めませんでした (%1)。</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>前回、Velvaneは正しく終了しませんでした。</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>これらのデモには保存されていない変更があります。チェックしないものは次回の起動時にもう一度表示されます。</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>保存されていない変更があるデモ</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>対象のデモをチェックしてください</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>一度も保存されていません</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 — %2、%3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>チェックしたデモを開きます</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>あとで</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>次回の起動時にもう一度確認します</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>チェックしたデモの変更を破棄します</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>録画するディスプレイがありません</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1502,6 +1672,26 @@ Results go to standard output, messages and progress to standard error.
         <translation>アプリの切り替えやウィンドウの移動ができないことがあります。別のウィンドウマネージャーを使ってください。</translation>
     </message>
     <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>ウォッチドッグ</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Velvane終了時に押されたままのものを放します</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Velvaneを再インストールしてください。velvane-watchdog が隣にありません。</translation>
+    </message>
+    <message>
         <source>running</source>
         <extracomment>X11Desktop</extracomment>
         <translation>実行中</translation>
@@ -1577,6 +1767,16 @@ Results go to standard output, messages and progress to standard error.
         <translation>名前なし</translation>
     </message>
     <message>
+        <source>the display %1 cannot be opened</source>
+        <extracomment>cli</extracomment>
+        <translation>ディスプレイ%1を開けません</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on</source>
+        <extracomment>cli</extracomment>
+        <translation>ウィンドウを開くディスプレイがありません</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <extracomment>std</extracomment>
         <translation>%1秒</translation>
@@ -1640,6 +1840,36 @@ Results go to standard output, messages and progress to standard error.
         <source>&amp;Help</source>
         <extracomment>velvane</extracomment>
         <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <extracomment>velvane</extracomment>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <extracomment>velvane</extracomment>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <extracomment>velvane</extracomment>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>開けません: %1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>大きすぎます(%1バイト)</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>読み込めません: %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -1772,14 +2002,69 @@ Results go to standard output, messages and progress to standard error.
         <translation>アップデート情報に有効な「%1」がありません。</translation>
     </message>
     <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>セッションバス</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>応答あり</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <extracomment>SessionServices, cli</extracomment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Velvaneをデスクトップから、または dbus-run-session の下で起動してください。これがないと、実行中のVelvaneとウィンドウを共有できません。</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>デスクトップポータル</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>あり</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ライトとダークがシステムに従うように、xdg-desktop-portal とデスクトップ用のものをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ファイル管理</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ファイルをフォルダー内に表示します</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ファイルのフォルダーを開きます</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>問い合わせできるものがありません</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>録画を表示できるように、ファイルマネージャーと xdg-utils をインストールしてください。</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>ステップを追加</translation>
-    </message>
-    <message>
-        <source>Record Actions</source>
-        <extracomment>StepCommands</extracomment>
-        <translation>操作を記録</translation>
     </message>
     <message>
         <source>Recording — Esc to Stop</source>
@@ -1840,6 +2125,91 @@ Results go to standard output, messages and progress to standard error.
         <source>Zoom 4×</source>
         <extracomment>ViewCommands</extracomment>
         <translation>4倍に拡大</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>%1がありません</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>Xサーバーで%1を有効にしてください。ないと、%2。</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>XサーバーでXKEYBOARDを有効にしてください。ないと、書かれたとおりに入力されません。</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>配列名なし</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>配列 %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>クリックも入力もできません</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>監視</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>操作を検知できず、Escキーでも実行を停止できません</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>画面の表示も録画もできません</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>高速な画像</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>画面の画像が遅くなります</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>ディスプレイ</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>複数のディスプレイが1つとして扱われます</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -1904,6 +2274,16 @@ EXAMPLE
   velvane convert tour.xml tour.velvane</translation>
     </message>
     <message>
+        <source>%1: is not writable</source>
+        <extracomment>cli</extracomment>
+        <translation>%1: 書き込みできません</translation>
+    </message>
+    <message>
+        <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
+        <extracomment>cli</extracomment>
+        <translation>画面(%1)がキャンバス(%2)より大きいため、外での操作はその端に記録されます。</translation>
+    </message>
+    <message>
         <source>%1 frames per second</source>
         <extracomment>cli</extracomment>
         <translation>毎秒%1フレーム</translation>
@@ -1912,11 +2292,6 @@ EXAMPLE
         <source>Backdrop</source>
         <extracomment>cli</extracomment>
         <translation>背景</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <extracomment>cli</extracomment>
-        <translation>なし</translation>
     </message>
     <message>
         <source>picture of %1 × %2</source>
@@ -1952,6 +2327,38 @@ EXAMPLE
         <source>there is no step “%1”</source>
         <extracomment>cli</extracomment>
         <translation>ステップ「%1」はありません</translation>
+    </message>
+    <message>
+        <source>Say what this session can and cannot do, with remedies</source>
+        <extracomment>cli</extracomment>
+        <translation>このセッションでできること・できないことと対処法を表示</translation>
+    </message>
+    <message>
+        <source>Print one JSON array instead of lines</source>
+        <extracomment>cli</extracomment>
+        <translation>行の代わりに1つのJSON配列を出力</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Say what this session can and cannot do, a line for each capability, with
+  the remedy below what is missing. Nothing is changed and nothing is shown on
+  the screen.
+
+JSON
+  An object for each capability: what, works, state, remedy or null.
+
+EXAMPLE
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</source>
+        <extracomment>cli</extracomment>
+        <translation>説明
+  このセッションでできることとできないことを、機能ごとに1行で示し、足りない
+  ものにはその下に対処法を示します。何も変更せず、画面にも何も表示しません。
+
+JSON
+  機能ごとに1つのオブジェクト: what, works, state, remedy または null。
+
+例
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</translation>
     </message>
     <message>
         <source>frames</source>
@@ -2042,20 +2449,28 @@ EXAMPLE
         <translation>書き込む画像</translation>
     </message>
     <message>
+        <source>Make it no wider and no higher than this</source>
+        <extracomment>cli</extracomment>
+        <translation>幅と高さをこれ以下にする</translation>
+    </message>
+    <message>
         <source>DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
-  last instant.
+  last instant. With --size, a larger picture is scaled down.
 
-EXAMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png</source>
+EXAMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</source>
         <extracomment>cli</extracomment>
         <translation>説明
   デモの一瞬を、キャンバスの大きさのPNG画像にします。ムービーがその時点で
   示すものと同じです。デモの外の時点では、最初または最後の瞬間になります。
+  --size を付けると、それより大きい画像は縮小されます。
 
 例
-  velvane frame tour.velvane --at 2.5 --output still.png</translation>
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</translation>
     </message>
     <message>
         <source>Show what a demo holds and when it happens</source>
@@ -2142,6 +2557,42 @@ EXAMPLE
   velvane new tour.velvane</translation>
     </message>
     <message>
+        <source>Record real mouse and keyboard actions into a demo</source>
+        <extracomment>cli</extracomment>
+        <translation>実際のマウスとキーボードの操作をデモに記録</translation>
+    </message>
+    <message>
+        <source>The demo that the steps are appended to</source>
+        <extracomment>cli</extracomment>
+        <translation>ステップを追加するデモ</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Record what is done with the mouse and the keyboard, after a countdown of
+  2.1 seconds, until Esc is pressed, whatever has the keyboard; Ctrl-C and
+  SIGTERM end it too. Nothing is kept from the programs in use. The steps are
+  appended to the demo, and the demo is saved.
+
+  The outcome goes to standard output. The exit status is 0, also when nothing
+  was recorded and the demo is left as it was, and 1 when it could not begin or
+  the demo could not be saved.
+
+EXAMPLE
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</source>
+        <extracomment>cli</extracomment>
+        <translation>説明
+  2.1秒のカウントダウンのあと、Escキーが押されるまで(どこにキーボード
+  フォーカスがあっても)、マウスとキーボードの操作を記録します。Ctrl-C と
+  SIGTERM でも終わります。操作は使用中のプログラムにそのまま届きます。
+  ステップはデモに追加され、デモは保存されます。
+
+  結果は標準出力に出ます。終了ステータスは0(何も記録されずデモがそのままの
+  場合も)、開始できなかったかデモを保存できなかった場合は1です。
+
+例
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</translation>
+    </message>
+    <message>
         <source>Perform a demo on the real desktop</source>
         <extracomment>cli</extracomment>
         <translation>実際のデスクトップでデモを実行</translation>
@@ -2185,7 +2636,11 @@ EXAMPLE
   STEP is a step's id or its number, as “velvane inspect” shows them. The
   cursor then begins where the demo would have left it.
 
-  The outcome goes to standard output. The exit status is 0 when the demo was
+  The outcome goes to standard output, and so does the path of the movie of a
+  recorded run, below it. Movies are put into Movies/Velvane in the home
+  folder. With “window” what the window of the demo's one application covers
+  is recorded; where there is none, or where the demo switches between
+  several, the whole screen is. The exit status is 0 when the demo was
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE
@@ -2199,11 +2654,159 @@ EXAMPLE
   STEP はステップのIDまたは番号で、「velvane inspect」が示すものです。
   カーソルは、デモがそこまでに置いていた位置から始まります。
 
-  結果は標準出力に出ます。終了ステータスは、デモが最後まで実行されたら0、
-  停止されたか開始できなかったら1です。
+  結果は標準出力に出て、録画した実行ではその下にムービーのパスが出ます。
+  ムービーはホームフォルダーの Movies/Velvane に置かれます。「window」では
+  デモの唯一のアプリのウィンドウが占める範囲を録画します。それがないか、
+  デモが複数のアプリを切り替える場合は、画面全体を録画します。終了ステータス
+  は、デモが最後まで実行されたら0、停止されたか開始できなかったら1です。
 
 例
   velvane run tour.velvane --from 4 --hide-others</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <extracomment>cli</extracomment>
+        <translation>表示サーバー</translation>
+    </message>
+    <message>
+        <source>X11 (%1), which does not answer</source>
+        <extracomment>cli</extracomment>
+        <translation>X11 (%1)、応答なし</translation>
+    </message>
+    <message>
+        <source>Start this in the desktop session, where DISPLAY and XAUTHORITY are right.</source>
+        <extracomment>cli</extracomment>
+        <translation>DISPLAYとXAUTHORITYが正しいデスクトップセッションで起動してください。</translation>
+    </message>
+    <message>
+        <source>Rendering needs none; the editor does: start it in a desktop session.</source>
+        <extracomment>cli</extracomment>
+        <translation>ムービー作成には不要ですが、エディターには必要です。デスクトップセッションで起動してください。</translation>
+    </message>
+    <message>
+        <source>works</source>
+        <extracomment>cli</extracomment>
+        <translation>使えます</translation>
+    </message>
+    <message>
+        <source>not here</source>
+        <extracomment>cli</extracomment>
+        <translation>ここでは使えません</translation>
+    </message>
+    <message>
+        <source>Caption font</source>
+        <extracomment>cli</extracomment>
+        <translation>字幕のフォント</translation>
+    </message>
+    <message>
+        <source>%1, semibold</source>
+        <extracomment>cli</extracomment>
+        <translation>%1、セミボールド</translation>
+    </message>
+    <message>
+        <source>Inter is missing, another sans-serif stands in</source>
+        <extracomment>cli</extracomment>
+        <translation>Interがないため、別のサンセリフで代用します</translation>
+    </message>
+    <message>
+        <source>Install %1.</source>
+        <extracomment>cli</extracomment>
+        <translation>%1をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>no font has all of %1</source>
+        <extracomment>cli</extracomment>
+        <translation>%1をすべて持つフォントがありません</translation>
+    </message>
+    <message>
+        <source>Backdrop pictures</source>
+        <extracomment>cli</extracomment>
+        <translation>背景画像</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <extracomment>cli</extracomment>
+        <translation>セッション</translation>
+    </message>
+    <message>
+        <source>Log in with an X11 session: in a Wayland session demos can be composed and rendered, not run or recorded.</source>
+        <extracomment>cli</extracomment>
+        <translation>X11セッションでログインしてください。Waylandセッションではデモの作成とムービー化はできますが、実行と記録はできません。</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <extracomment>cli</extracomment>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1、空き%2</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <extracomment>cli</extracomment>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>Make room there: a recording ends when the disk is full.</source>
+        <extracomment>cli</extracomment>
+        <translation>空き容量を増やしてください。ディスクがいっぱいになると録画は終わります。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <extracomment>cli</extracomment>
+        <translation>%1に書き込めません</translation>
+    </message>
+    <message>
+        <source>Make %1 a folder that you may write to.</source>
+        <extracomment>cli</extracomment>
+        <translation>%1を書き込めるフォルダーにしてください。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <extracomment>cli</extracomment>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read as they are written.</source>
+        <extracomment>cli</extracomment>
+        <translation>ファイル名とテキストが書かれたとおりに読めるように、LANGを C.UTF-8 などのUTF-8ロケールにしてください。</translation>
+    </message>
+    <message>
+        <source>Input posting</source>
+        <extracomment>cli</extracomment>
+        <translation>入力の送信</translation>
+    </message>
+    <message>
+        <source>Input listening</source>
+        <extracomment>cli</extracomment>
+        <translation>入力の監視</translation>
+    </message>
+    <message>
+        <source>Screen capture</source>
+        <extracomment>cli</extracomment>
+        <translation>画面の取り込み</translation>
+    </message>
+    <message>
+        <source>H.264 encoder</source>
+        <extracomment>cli</extracomment>
+        <translation>H.264エンコーダー</translation>
+    </message>
+    <message>
+        <source>Movie files</source>
+        <extracomment>cli</extracomment>
+        <translation>ムービーファイル</translation>
+    </message>
+    <message>
+        <source>Shortcut glyphs</source>
+        <extracomment>cli</extracomment>
+        <translation>ショートカット記号</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <extracomment>cli</extracomment>
+        <translation>絵文字</translation>
     </message>
     <message>
         <source>Show what a demo shows at given moments</source>
@@ -2238,321 +2841,6 @@ EXAMPLE
 
 例
   velvane state tour.velvane --at 0 --at 2.5</translation>
-    </message>
-    <message>
-        <source>● Recording — Esc to stop</source>
-        <extracomment>ActionRecorder, RecordActionsController</extracomment>
-        <translation>● 記録中 — Escキーで停止</translation>
-    </message>
-    <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>操作を記録しています。</translation>
-    </message>
-    <message>
-        <source>The screen is larger than the canvas.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>画面がキャンバスより大きくなっています。</translation>
-    </message>
-    <message>
-        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>画面は%1ポイント、キャンバスは%2ポイントです。キャンバスの外での操作はその端に記録されます。</translation>
-    </message>
-    <message>
-        <source>Keep Canvas</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>キャンバスを維持</translation>
-    </message>
-    <message>
-        <source>Recording starts in %1…</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>記録開始まで %1…</translation>
-    </message>
-    <message>
-        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>記録を開始できませんでした。システム設定でVelvaneに入力監視を許可してください。</translation>
-    </message>
-    <message>
-        <source>Recording stopped — no actions captured.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>記録を停止しました。操作はありませんでした。</translation>
-    </message>
-    <message>
-        <source>Recorded %1 step%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1個のステップ%2を記録しました。</translation>
-    </message>
-    <message>
-        <source>Recorded %1 steps%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>%1個のステップ%2を記録しました。</translation>
-    </message>
-    <message>
-        <source> with screen recording</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>(画面の録画つき)</translation>
-    </message>
-    <message>
-        <source>No display to record</source>
-        <extracomment>RunRecorder</extracomment>
-        <translation>録画するディスプレイがありません</translation>
-    </message>
-    <message>
-        <source>Watchdog</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>ウォッチドッグ</translation>
-    </message>
-    <message>
-        <source>releases what is held if Velvane ends</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Velvane終了時に押されたままのものを放します</translation>
-    </message>
-    <message>
-        <source>missing</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Velvaneを再インストールしてください。velvane-watchdog が隣にありません。</translation>
-    </message>
-    <message>
-        <source>Session bus</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>セッションバス</translation>
-    </message>
-    <message>
-        <source>answers</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>応答あり</translation>
-    </message>
-    <message>
-        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>Velvaneをデスクトップから、または dbus-run-session の下で起動してください。これがないと、実行中のVelvaneとウィンドウを共有できません。</translation>
-    </message>
-    <message>
-        <source>Desktop portal</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>デスクトップポータル</translation>
-    </message>
-    <message>
-        <source>there</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>あり</translation>
-    </message>
-    <message>
-        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>ライトとダークがシステムに従うように、xdg-desktop-portal とデスクトップ用のものをインストールしてください。</translation>
-    </message>
-    <message>
-        <source>File manager</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>ファイル管理</translation>
-    </message>
-    <message>
-        <source>shows a file in its folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>ファイルをフォルダー内に表示します</translation>
-    </message>
-    <message>
-        <source>opens a file's folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>ファイルのフォルダーを開きます</translation>
-    </message>
-    <message>
-        <source>none can be asked</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>問い合わせできるものがありません</translation>
-    </message>
-    <message>
-        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>録画を表示できるように、ファイルマネージャーと xdg-utils をインストールしてください。</translation>
-    </message>
-    <message>
-        <source>lacks %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>%1がありません</translation>
-    </message>
-    <message>
-        <source>Enable %1 in the X server: without it %2.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>Xサーバーで%1を有効にしてください。ないと、%2。</translation>
-    </message>
-    <message>
-        <source>Keyboard</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>キーボード</translation>
-    </message>
-    <message>
-        <source>cannot be read</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>読み取れません</translation>
-    </message>
-    <message>
-        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>XサーバーでXKEYBOARDを有効にしてください。ないと、書かれたとおりに入力されません。</translation>
-    </message>
-    <message>
-        <source>layout not named</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>配列名なし</translation>
-    </message>
-    <message>
-        <source>layout %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>配列 %1</translation>
-    </message>
-    <message>
-        <source>Posting</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>送信</translation>
-    </message>
-    <message>
-        <source>nothing is clicked or typed</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>クリックも入力もできません</translation>
-    </message>
-    <message>
-        <source>Listening</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>監視</translation>
-    </message>
-    <message>
-        <source>actions are not heard and Esc does not stop a run</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>操作を検知できず、Escキーでも実行を停止できません</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>画像</translation>
-    </message>
-    <message>
-        <source>the screen is neither shown nor recorded</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>画面の表示も録画もできません</translation>
-    </message>
-    <message>
-        <source>Fast pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>高速な画像</translation>
-    </message>
-    <message>
-        <source>pictures of the screen come slowly</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>画面の画像が遅くなります</translation>
-    </message>
-    <message>
-        <source>Displays</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>ディスプレイ</translation>
-    </message>
-    <message>
-        <source>several displays are taken for one</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>複数のディスプレイが1つとして扱われます</translation>
-    </message>
-    <message>
-        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
-        <extracomment>LocationPicker</extracomment>
-        <translation>カーソルをターゲットに合わせてください — %1秒後に取り込みます · Escキーでキャンセル</translation>
-    </message>
-    <message>
-        <source>Pick on screen — position the cursor over the target.</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>画面上で選択 — カーソルをターゲットに合わせてください。</translation>
-    </message>
-    <message>
-        <source>Pick Location</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>位置を選択</translation>
-    </message>
-    <message>
-        <source>Captured target at (%1, %2)</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>(%1, %2)のターゲットを取り込みました</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <extracomment>Autosave, RestorePanel</extracomment>
-        <translation>復元</translation>
-    </message>
-    <message>
-        <source>Velvane did not end properly the last time.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>前回、Velvaneは正しく終了しませんでした。</translation>
-    </message>
-    <message>
-        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>これらのデモには保存されていない変更があります。チェックしないものは次回の起動時にもう一度表示されます。</translation>
-    </message>
-    <message>
-        <source>Demos with changes that were not saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>保存されていない変更があるデモ</translation>
-    </message>
-    <message>
-        <source>Check the demos that you mean</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>対象のデモをチェックしてください</translation>
-    </message>
-    <message>
-        <source>never saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>一度も保存されていません</translation>
-    </message>
-    <message>
-        <source>%1 — %2, %3</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>%1 — %2、%3</translation>
-    </message>
-    <message>
-        <source>Open the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>チェックしたデモを開きます</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>あとで</translation>
-    </message>
-    <message>
-        <source>Ask again at the next start</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>次回の起動時にもう一度確認します</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>破棄</translation>
-    </message>
-    <message>
-        <source>Give up the changes of the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>チェックしたデモの変更を破棄します</translation>
-    </message>
-    <message>
-        <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>録画を停止しました: %1</translation>
-    </message>
-    <message>
-        <source>Recording saved to %1%2 — revealed in Finder.</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>録画を%1%2に保存し、ファイルマネージャーに表示しました。</translation>
-    </message>
-    <message>
-        <source> (window not found — recorded full screen)</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>(ウィンドウが見つからないため全画面を録画)</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,11 @@
 <context>
     <name>Velvane</name>
     <message>
+        <source>● Recording — Esc to stop</source>
+        <extracomment>ActionRecorder, RecordActionsController</extracomment>
+        <translation>● 正在录制——按 Esc 停止</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <extracomment>AddStepGrid, StepList</extracomment>
         <translation>添加%1</translation>
@@ -32,6 +37,11 @@
         <source>No applications found</source>
         <extracomment>AppMenu</extracomment>
         <translation>未找到应用</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <extracomment>Autosave, RestorePanel</extracomment>
+        <translation>恢复</translation>
     </message>
     <message>
         <source>No recording frame to freeze yet.</source>
@@ -127,6 +137,11 @@ H.264 movie or performed on the real desktop.</source>
         <translation>要在编辑器中打开的演示</translation>
     </message>
     <message>
+        <source>Open them in a process of its own, even when Velvane runs already</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>在单独的进程中打开，即使 Velvane 已在运行</translation>
+    </message>
+    <message>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>所有文本的语言，例如 de</translation>
@@ -152,13 +167,23 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>(see velvane --help)</source>
-        <extracomment>CommandLine</extracomment>
+        <extracomment>CommandLine, cli</extracomment>
         <translation>（参见 velvane --help）</translation>
     </message>
     <message>
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>ContentView</extracomment>
+        <translation>正在录制操作。</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <extracomment>DemoDocument</extracomment>
+        <translation>无法写入：%1</translation>
     </message>
     <message>
         <source>Change Canvas</source>
@@ -267,7 +292,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Match Screen</source>
-        <extracomment>DemoSettingsForm</extracomment>
+        <extracomment>DemoSettingsForm, EditorWindow</extracomment>
         <translation>匹配屏幕</translation>
     </message>
     <message>
@@ -546,6 +571,21 @@ Results go to standard output, messages and progress to standard error.
         <translation>保留我的版本</translation>
     </message>
     <message>
+        <source>The screen is larger than the canvas.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>屏幕大于画布。</translation>
+    </message>
+    <message>
+        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>屏幕为 %1 点，画布为 %2 点。在画布之外的操作会记录在其边缘。</translation>
+    </message>
+    <message>
+        <source>Keep Canvas</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>保留画布</translation>
+    </message>
+    <message>
         <source>Do you want to save the changes to “%1”?</source>
         <extracomment>EditorWindow</extracomment>
         <translation>要保存对“%1”的更改吗？</translation>
@@ -741,6 +781,16 @@ Results go to standard output, messages and progress to standard error.
         <translation>已选择 %1 个步骤</translation>
     </message>
     <message>
+        <source>not a property list</source>
+        <extracomment>KeptDemo, velvane</extracomment>
+        <translation>不是属性列表</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <extracomment>KeptSession</extracomment>
+        <translation>无法创建文件夹 %1</translation>
+    </message>
+    <message>
         <source>Driving the real cursor — bring your target app forward</source>
         <extracomment>LiveOverlay</extracomment>
         <translation>正在驱动真实光标——请将目标应用置于最前</translation>
@@ -772,7 +822,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Grant Accessibility permission to Velvane, then run again.</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>请授予 Velvane 辅助功能权限，然后再次运行。</translation>
     </message>
     <message>
@@ -781,14 +831,19 @@ Results go to standard output, messages and progress to standard error.
         <translation>此处无法监听 Esc 键，因此未运行任何步骤。</translation>
     </message>
     <message>
+        <source>Recording stopped: %1</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>录制已停止：%1</translation>
+    </message>
+    <message>
         <source>Couldn't start recording: %1</source>
         <extracomment>LiveRunController</extracomment>
         <translation>无法开始录制：%1</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record the screen yet.</source>
+        <source>Live run stopped: the display has gone.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>此版本的 Velvane 尚不能录制屏幕。</translation>
+        <translation>实时运行已停止：显示器已断开。</translation>
     </message>
     <message>
         <source>Live run stopped.</source>
@@ -801,9 +856,24 @@ Results go to standard output, messages and progress to standard error.
         <translation>实时运行已完成。</translation>
     </message>
     <message>
-        <source>Live run stopped: the display has gone.</source>
+        <source>Recording saved to %1%2 — revealed in Finder.</source>
         <extracomment>LiveRunController</extracomment>
-        <translation>实时运行已停止：显示器已断开。</translation>
+        <translation>录像已保存到 %1%2——已在文件管理器中显示。</translation>
+    </message>
+    <message>
+        <source> (window not found — recorded full screen)</source>
+        <extracomment>LiveRunController</extracomment>
+        <translation>（未找到窗口——录制了整个屏幕）</translation>
+    </message>
+    <message>
+        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
+        <extracomment>LocationPicker</extracomment>
+        <translation>将光标移到目标上——%1 秒后获取 · 按 Esc 取消</translation>
+    </message>
+    <message>
+        <source>another user's link stands in its place</source>
+        <extracomment>MovieFile, WholeFile</extracomment>
+        <translation>其位置上有另一用户的链接</translation>
     </message>
     <message>
         <source>The movie has no duration.</source>
@@ -846,9 +916,19 @@ Results go to standard output, messages and progress to standard error.
         <translation>↑ 和 ↓ 每次更改 1；按住 Shift 或用 Page Up 和 Page Down 每次更改 10。</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot pick locations yet.</source>
+        <source>Pick on screen — position the cursor over the target.</source>
         <extracomment>PickLocationController</extracomment>
-        <translation>此版本的 Velvane 尚不能选取位置。</translation>
+        <translation>在屏幕上选取——将光标移到目标上。</translation>
+    </message>
+    <message>
+        <source>Pick Location</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>选取位置</translation>
+    </message>
+    <message>
+        <source>Captured target at (%1, %2)</source>
+        <extracomment>PickLocationController</extracomment>
+        <translation>已在 (%1, %2) 获取目标</translation>
     </message>
     <message>
         <source>Nothing here decodes %1.</source>
@@ -897,7 +977,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Velvane</source>
-        <extracomment>Question, StartWindow</extracomment>
+        <extracomment>Question, RestorePanel, StartWindow</extracomment>
         <translation>Velvane</translation>
     </message>
     <message>
@@ -921,9 +1001,39 @@ Results go to standard output, messages and progress to standard error.
         <translation>yyyy年M月d日</translation>
     </message>
     <message>
-        <source>This version of Velvane cannot record actions yet.</source>
+        <source>Recording starts in %1…</source>
         <extracomment>RecordActionsController</extracomment>
-        <translation>此版本的 Velvane 尚不能录制操作。</translation>
+        <translation>录制将在 %1 秒后开始…</translation>
+    </message>
+    <message>
+        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>无法开始录制——请在系统设置中授予 Velvane 输入监控权限。</translation>
+    </message>
+    <message>
+        <source>Recording stopped — no actions captured.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>录制已停止——未捕获任何操作。</translation>
+    </message>
+    <message>
+        <source>Record Actions</source>
+        <extracomment>RecordActionsController, StepCommands</extracomment>
+        <translation>录制操作</translation>
+    </message>
+    <message>
+        <source>Recorded %1 step%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>已录制 %1 个步骤%2。</translation>
+    </message>
+    <message>
+        <source>Recorded %1 steps%2.</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>已录制 %1 个步骤%2。</translation>
+    </message>
+    <message>
+        <source> with screen recording</source>
+        <extracomment>RecordActionsController</extracomment>
+        <translation>（含屏幕录像）</translation>
     </message>
     <message>
         <source>This demo has no screen recording yet.</source>
@@ -939,6 +1049,66 @@ Results go to standard output, messages and progress to standard error.
         <source>Couldn't read the screen recording (%1).</source>
         <extracomment>RecordingBackdrop</extracomment>
         <translation>无法读取屏幕录像 (%1)。</translation>
+    </message>
+    <message>
+        <source>Velvane did not end properly the last time.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>Velvane 上次未正常结束。</translation>
+    </message>
+    <message>
+        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>这些演示有未保存的更改。未勾选的会在下次启动时再次提供。</translation>
+    </message>
+    <message>
+        <source>Demos with changes that were not saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>有未保存更改的演示</translation>
+    </message>
+    <message>
+        <source>Check the demos that you mean</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>勾选相应的演示</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>从未保存</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>%1 — %2，%3</translation>
+    </message>
+    <message>
+        <source>Open the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>打开勾选的演示</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>稍后</translation>
+    </message>
+    <message>
+        <source>Ask again at the next start</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>下次启动时再次询问</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Give up the changes of the checked demos</source>
+        <extracomment>RestorePanel</extracomment>
+        <translation>放弃勾选演示的更改</translation>
+    </message>
+    <message>
+        <source>No display to record</source>
+        <extracomment>RunRecorder</extracomment>
+        <translation>没有可录制的显示器</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1501,6 +1671,26 @@ Results go to standard output, messages and progress to standard error.
         <translation>切换应用或移动其窗口可能无效；请使用其他窗口管理器。</translation>
     </message>
     <message>
+        <source>Watchdog</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>看门程序</translation>
+    </message>
+    <message>
+        <source>releases what is held if Velvane ends</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>Velvane 结束时释放按住的键</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>缺少</translation>
+    </message>
+    <message>
+        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
+        <extracomment>X11Desktop</extracomment>
+        <translation>请重新安装 Velvane：velvane-watchdog 不在其旁边。</translation>
+    </message>
+    <message>
         <source>running</source>
         <extracomment>X11Desktop</extracomment>
         <translation>正在运行</translation>
@@ -1576,6 +1766,16 @@ Results go to standard output, messages and progress to standard error.
         <translation>无名称</translation>
     </message>
     <message>
+        <source>the display %1 cannot be opened</source>
+        <extracomment>cli</extracomment>
+        <translation>无法打开显示器 %1</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on</source>
+        <extracomment>cli</extracomment>
+        <translation>没有可打开窗口的显示器</translation>
+    </message>
+    <message>
         <source>%1 s</source>
         <extracomment>std</extracomment>
         <translation>%1 秒</translation>
@@ -1639,6 +1839,36 @@ Results go to standard output, messages and progress to standard error.
         <source>&amp;Help</source>
         <extracomment>velvane</extracomment>
         <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <extracomment>velvane</extracomment>
+        <translation>是文件夹</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <extracomment>velvane</extracomment>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <extracomment>velvane</extracomment>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>无法打开：%1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>过大，%1 字节</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>无法读取：%1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -1771,14 +2001,69 @@ Results go to standard output, messages and progress to standard error.
         <translation>更新源没有有效的“%1”。</translation>
     </message>
     <message>
+        <source>Session bus</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>会话总线</translation>
+    </message>
+    <message>
+        <source>answers</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>有应答</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <extracomment>SessionServices, cli</extracomment>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>请从桌面或在 dbus-run-session 下启动 Velvane：没有它就无法与正在运行的 Velvane 共享窗口。</translation>
+    </message>
+    <message>
+        <source>Desktop portal</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>桌面门户</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>存在</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>请安装 xdg-desktop-portal 及您桌面的门户，以便明暗主题跟随系统。</translation>
+    </message>
+    <message>
+        <source>File manager</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>文件管理器</translation>
+    </message>
+    <message>
+        <source>shows a file in its folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>可在文件夹中显示文件</translation>
+    </message>
+    <message>
+        <source>opens a file's folder</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>可打开文件所在的文件夹</translation>
+    </message>
+    <message>
+        <source>none can be asked</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>没有可查询的</translation>
+    </message>
+    <message>
+        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>请安装文件管理器和 xdg-utils，以便显示录像。</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>添加步骤</translation>
-    </message>
-    <message>
-        <source>Record Actions</source>
-        <extracomment>StepCommands</extracomment>
-        <translation>录制操作</translation>
     </message>
     <message>
         <source>Recording — Esc to Stop</source>
@@ -1839,6 +2124,91 @@ Results go to standard output, messages and progress to standard error.
         <source>Zoom 4×</source>
         <extracomment>ViewCommands</extracomment>
         <translation>放大 4 倍</translation>
+    </message>
+    <message>
+        <source>lacks %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
+        <source>Enable %1 in the X server: without it %2.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>请在 X 服务器中启用 %1：否则%2。</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>请在 X 服务器中启用 XKEYBOARD：否则无法按原文输入。</translation>
+    </message>
+    <message>
+        <source>layout not named</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>未命名的布局</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>布局 %1</translation>
+    </message>
+    <message>
+        <source>Posting</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>nothing is clicked or typed</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>无法点击或输入</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>监听</translation>
+    </message>
+    <message>
+        <source>actions are not heard and Esc does not stop a run</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>无法监听操作，Esc 也不能停止运行</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>the screen is neither shown nor recorded</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>屏幕既不能显示也不能录制</translation>
+    </message>
+    <message>
+        <source>Fast pictures</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>快速图像</translation>
+    </message>
+    <message>
+        <source>pictures of the screen come slowly</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>屏幕图像会变慢</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>several displays are taken for one</source>
+        <extracomment>X11Facts</extracomment>
+        <translation>多个显示器会被视为一个</translation>
     </message>
     <message>
         <source>Usage</source>
@@ -1902,6 +2272,16 @@ EXAMPLE
   velvane convert tour.xml tour.velvane</translation>
     </message>
     <message>
+        <source>%1: is not writable</source>
+        <extracomment>cli</extracomment>
+        <translation>%1：不可写</translation>
+    </message>
+    <message>
+        <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
+        <extracomment>cli</extracomment>
+        <translation>屏幕 (%1) 大于画布 (%2)：超出部分会记录在画布边缘。</translation>
+    </message>
+    <message>
         <source>%1 frames per second</source>
         <extracomment>cli</extracomment>
         <translation>每秒 %1 帧</translation>
@@ -1910,11 +2290,6 @@ EXAMPLE
         <source>Backdrop</source>
         <extracomment>cli</extracomment>
         <translation>背景</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <extracomment>cli</extracomment>
-        <translation>无</translation>
     </message>
     <message>
         <source>picture of %1 × %2</source>
@@ -1950,6 +2325,38 @@ EXAMPLE
         <source>there is no step “%1”</source>
         <extracomment>cli</extracomment>
         <translation>没有步骤“%1”</translation>
+    </message>
+    <message>
+        <source>Say what this session can and cannot do, with remedies</source>
+        <extracomment>cli</extracomment>
+        <translation>说明此会话能做什么、不能做什么及补救办法</translation>
+    </message>
+    <message>
+        <source>Print one JSON array instead of lines</source>
+        <extracomment>cli</extracomment>
+        <translation>输出一个 JSON 数组而不是文本行</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Say what this session can and cannot do, a line for each capability, with
+  the remedy below what is missing. Nothing is changed and nothing is shown on
+  the screen.
+
+JSON
+  An object for each capability: what, works, state, remedy or null.
+
+EXAMPLE
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</source>
+        <extracomment>cli</extracomment>
+        <translation>说明
+  说明此会话能做什么、不能做什么，每项能力一行，缺少的项目下方附补救办法。
+  不作任何更改，屏幕上也不显示任何内容。
+
+JSON
+  每项能力一个对象：what, works, state, remedy 或 null。
+
+示例
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy'</translation>
     </message>
     <message>
         <source>frames</source>
@@ -2039,20 +2446,27 @@ EXAMPLE
         <translation>要写入的图片</translation>
     </message>
     <message>
+        <source>Make it no wider and no higher than this</source>
+        <extracomment>cli</extracomment>
+        <translation>宽和高不超过此值</translation>
+    </message>
+    <message>
         <source>DESCRIPTION
   Render one moment of a demo to a PNG picture of the canvas's size: what a
   movie shows at that moment. A moment outside the demo shows its first or its
-  last instant.
+  last instant. With --size, a larger picture is scaled down.
 
-EXAMPLE
-  velvane frame tour.velvane --at 2.5 --output still.png</source>
+EXAMPLES
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</source>
         <extracomment>cli</extracomment>
         <translation>说明
   将演示的某一时刻渲染为画布大小的 PNG 图片，即影片在该时刻显示的内容。演示
-  范围之外的时刻显示其最初或最后的瞬间。
+  范围之外的时刻显示其最初或最后的瞬间。使用 --size 时，较大的图片会被缩小。
 
 示例
-  velvane frame tour.velvane --at 2.5 --output still.png</translation>
+  velvane frame tour.velvane --at 2.5 --output still.png
+  velvane frame tour.velvane --at 0 --size 256 --output thumbnail.png</translation>
     </message>
     <message>
         <source>Show what a demo holds and when it happens</source>
@@ -2138,6 +2552,41 @@ EXAMPLE
   velvane new tour.velvane</translation>
     </message>
     <message>
+        <source>Record real mouse and keyboard actions into a demo</source>
+        <extracomment>cli</extracomment>
+        <translation>将真实的鼠标和键盘操作录制到演示中</translation>
+    </message>
+    <message>
+        <source>The demo that the steps are appended to</source>
+        <extracomment>cli</extracomment>
+        <translation>要追加步骤的演示</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION
+  Record what is done with the mouse and the keyboard, after a countdown of
+  2.1 seconds, until Esc is pressed, whatever has the keyboard; Ctrl-C and
+  SIGTERM end it too. Nothing is kept from the programs in use. The steps are
+  appended to the demo, and the demo is saved.
+
+  The outcome goes to standard output. The exit status is 0, also when nothing
+  was recorded and the demo is left as it was, and 1 when it could not begin or
+  the demo could not be saved.
+
+EXAMPLE
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</source>
+        <extracomment>cli</extracomment>
+        <translation>说明
+  倒计时 2.1 秒后录制鼠标和键盘的操作，直到按下 Esc（无论键盘焦点在哪里）；
+  Ctrl-C 和 SIGTERM 也会结束录制。所用的程序仍会收到全部输入。步骤会追加到
+  演示，演示随后保存。
+
+  结果输出到标准输出。退出状态为 0，未录制任何内容、演示保持原样时也是；无法
+  开始或无法保存演示时为 1。
+
+示例
+  velvane new tour.velvane &amp;&amp; velvane record tour.velvane</translation>
+    </message>
+    <message>
         <source>Perform a demo on the real desktop</source>
         <extracomment>cli</extracomment>
         <translation>在真实桌面上执行演示</translation>
@@ -2181,7 +2630,11 @@ EXAMPLE
   STEP is a step's id or its number, as “velvane inspect” shows them. The
   cursor then begins where the demo would have left it.
 
-  The outcome goes to standard output. The exit status is 0 when the demo was
+  The outcome goes to standard output, and so does the path of the movie of a
+  recorded run, below it. Movies are put into Movies/Velvane in the home
+  folder. With “window” what the window of the demo's one application covers
+  is recorded; where there is none, or where the demo switches between
+  several, the whole screen is. The exit status is 0 when the demo was
   performed to its end and 1 when it was stopped or could not begin.
 
 EXAMPLE
@@ -2194,10 +2647,158 @@ EXAMPLE
   STEP 是步骤的标识或编号，即“velvane inspect”所显示的。光标从演示本应到达的
   位置开始。
 
-  结果输出到标准输出。演示执行到结束时退出状态为 0，被停止或无法开始时为 1。
+  结果输出到标准输出，录制的运行还会在其下方输出影片的路径。影片保存在主文件夹
+  的 Movies/Velvane 中。使用“window”时，录制演示唯一应用的窗口所占的范围；没有
+  该窗口或演示在多个应用间切换时，录制整个屏幕。演示执行到结束时退出状态为 0，
+  被停止或无法开始时为 1。
 
 示例
   velvane run tour.velvane --from 4 --hide-others</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <extracomment>cli</extracomment>
+        <translation>显示服务器</translation>
+    </message>
+    <message>
+        <source>X11 (%1), which does not answer</source>
+        <extracomment>cli</extracomment>
+        <translation>X11 (%1)，无响应</translation>
+    </message>
+    <message>
+        <source>Start this in the desktop session, where DISPLAY and XAUTHORITY are right.</source>
+        <extracomment>cli</extracomment>
+        <translation>请在 DISPLAY 和 XAUTHORITY 正确的桌面会话中启动。</translation>
+    </message>
+    <message>
+        <source>Rendering needs none; the editor does: start it in a desktop session.</source>
+        <extracomment>cli</extracomment>
+        <translation>渲染不需要，编辑器需要：请在桌面会话中启动。</translation>
+    </message>
+    <message>
+        <source>works</source>
+        <extracomment>cli</extracomment>
+        <translation>可用</translation>
+    </message>
+    <message>
+        <source>not here</source>
+        <extracomment>cli</extracomment>
+        <translation>此处不可用</translation>
+    </message>
+    <message>
+        <source>Caption font</source>
+        <extracomment>cli</extracomment>
+        <translation>字幕字体</translation>
+    </message>
+    <message>
+        <source>%1, semibold</source>
+        <extracomment>cli</extracomment>
+        <translation>%1，半粗体</translation>
+    </message>
+    <message>
+        <source>Inter is missing, another sans-serif stands in</source>
+        <extracomment>cli</extracomment>
+        <translation>缺少 Inter，以另一种无衬线字体代替</translation>
+    </message>
+    <message>
+        <source>Install %1.</source>
+        <extracomment>cli</extracomment>
+        <translation>请安装 %1。</translation>
+    </message>
+    <message>
+        <source>no font has all of %1</source>
+        <extracomment>cli</extracomment>
+        <translation>没有字体包含全部 %1</translation>
+    </message>
+    <message>
+        <source>Backdrop pictures</source>
+        <extracomment>cli</extracomment>
+        <translation>背景图片</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <extracomment>cli</extracomment>
+        <translation>会话</translation>
+    </message>
+    <message>
+        <source>Log in with an X11 session: in a Wayland session demos can be composed and rendered, not run or recorded.</source>
+        <extracomment>cli</extracomment>
+        <translation>请使用 X11 会话登录：在 Wayland 会话中可以编写和渲染演示，但不能运行或录制。</translation>
+    </message>
+    <message>
+        <source>not told</source>
+        <extracomment>cli</extracomment>
+        <translation>未说明</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1，剩余 %2</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <extracomment>cli</extracomment>
+        <translation>录像</translation>
+    </message>
+    <message>
+        <source>Make room there: a recording ends when the disk is full.</source>
+        <extracomment>cli</extracomment>
+        <translation>请腾出空间：磁盘已满时录制会结束。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <extracomment>cli</extracomment>
+        <translation>无法写入 %1</translation>
+    </message>
+    <message>
+        <source>Make %1 a folder that you may write to.</source>
+        <extracomment>cli</extracomment>
+        <translation>请使 %1 成为可写入的文件夹。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <extracomment>cli</extracomment>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read as they are written.</source>
+        <extracomment>cli</extracomment>
+        <translation>请将 LANG 设为 UTF-8 区域（如 C.UTF-8），以便按原样读取文件名和文本。</translation>
+    </message>
+    <message>
+        <source>Input posting</source>
+        <extracomment>cli</extracomment>
+        <translation>发送输入</translation>
+    </message>
+    <message>
+        <source>Input listening</source>
+        <extracomment>cli</extracomment>
+        <translation>监听输入</translation>
+    </message>
+    <message>
+        <source>Screen capture</source>
+        <extracomment>cli</extracomment>
+        <translation>屏幕捕获</translation>
+    </message>
+    <message>
+        <source>H.264 encoder</source>
+        <extracomment>cli</extracomment>
+        <translation>H.264 编码器</translation>
+    </message>
+    <message>
+        <source>Movie files</source>
+        <extracomment>cli</extracomment>
+        <translation>影片文件</translation>
+    </message>
+    <message>
+        <source>Shortcut glyphs</source>
+        <extracomment>cli</extracomment>
+        <translation>快捷键符号</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <extracomment>cli</extracomment>
+        <translation>表情符号</translation>
     </message>
     <message>
         <source>Show what a demo shows at given moments</source>
@@ -2231,321 +2832,6 @@ EXAMPLE
 
 示例
   velvane state tour.velvane --at 0 --at 2.5</translation>
-    </message>
-    <message>
-        <source>● Recording — Esc to stop</source>
-        <extracomment>ActionRecorder, RecordActionsController</extracomment>
-        <translation>● 正在录制——按 Esc 停止</translation>
-    </message>
-    <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>正在录制操作。</translation>
-    </message>
-    <message>
-        <source>The screen is larger than the canvas.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>屏幕大于画布。</translation>
-    </message>
-    <message>
-        <source>The screen has %1 points, the canvas %2. What you do beyond the canvas is recorded at its edge.</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>屏幕为 %1 点，画布为 %2 点。在画布之外的操作会记录在其边缘。</translation>
-    </message>
-    <message>
-        <source>Keep Canvas</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>保留画布</translation>
-    </message>
-    <message>
-        <source>Recording starts in %1…</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>录制将在 %1 秒后开始…</translation>
-    </message>
-    <message>
-        <source>Couldn't start recording — grant Input Monitoring to Velvane in System Settings.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>无法开始录制——请在系统设置中授予 Velvane 输入监控权限。</translation>
-    </message>
-    <message>
-        <source>Recording stopped — no actions captured.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>录制已停止——未捕获任何操作。</translation>
-    </message>
-    <message>
-        <source>Recorded %1 step%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>已录制 %1 个步骤%2。</translation>
-    </message>
-    <message>
-        <source>Recorded %1 steps%2.</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>已录制 %1 个步骤%2。</translation>
-    </message>
-    <message>
-        <source> with screen recording</source>
-        <extracomment>RecordActionsController</extracomment>
-        <translation>（含屏幕录像）</translation>
-    </message>
-    <message>
-        <source>No display to record</source>
-        <extracomment>RunRecorder</extracomment>
-        <translation>没有可录制的显示器</translation>
-    </message>
-    <message>
-        <source>Watchdog</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>看门程序</translation>
-    </message>
-    <message>
-        <source>releases what is held if Velvane ends</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>Velvane 结束时释放按住的键</translation>
-    </message>
-    <message>
-        <source>missing</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>缺少</translation>
-    </message>
-    <message>
-        <source>Install Velvane again: velvane-watchdog is not beside it.</source>
-        <extracomment>X11Desktop</extracomment>
-        <translation>请重新安装 Velvane：velvane-watchdog 不在其旁边。</translation>
-    </message>
-    <message>
-        <source>Session bus</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>会话总线</translation>
-    </message>
-    <message>
-        <source>answers</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>有应答</translation>
-    </message>
-    <message>
-        <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>请从桌面或在 dbus-run-session 下启动 Velvane：没有它就无法与正在运行的 Velvane 共享窗口。</translation>
-    </message>
-    <message>
-        <source>Desktop portal</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>桌面门户</translation>
-    </message>
-    <message>
-        <source>there</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>存在</translation>
-    </message>
-    <message>
-        <source>Install xdg-desktop-portal and the one of your desktop, so that dark and light follow the system.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>请安装 xdg-desktop-portal 及您桌面的门户，以便明暗主题跟随系统。</translation>
-    </message>
-    <message>
-        <source>File manager</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>文件管理器</translation>
-    </message>
-    <message>
-        <source>shows a file in its folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>可在文件夹中显示文件</translation>
-    </message>
-    <message>
-        <source>opens a file's folder</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>可打开文件所在的文件夹</translation>
-    </message>
-    <message>
-        <source>none can be asked</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>没有可查询的</translation>
-    </message>
-    <message>
-        <source>Install a file manager, and xdg-utils, so that recordings can be shown.</source>
-        <extracomment>SessionServices</extracomment>
-        <translation>请安装文件管理器和 xdg-utils，以便显示录像。</translation>
-    </message>
-    <message>
-        <source>lacks %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>缺少 %1</translation>
-    </message>
-    <message>
-        <source>Enable %1 in the X server: without it %2.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>请在 X 服务器中启用 %1：否则%2。</translation>
-    </message>
-    <message>
-        <source>Keyboard</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>键盘</translation>
-    </message>
-    <message>
-        <source>cannot be read</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>无法读取</translation>
-    </message>
-    <message>
-        <source>Enable XKEYBOARD in the X server: without it nothing is typed as written.</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>请在 X 服务器中启用 XKEYBOARD：否则无法按原文输入。</translation>
-    </message>
-    <message>
-        <source>layout not named</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>未命名的布局</translation>
-    </message>
-    <message>
-        <source>layout %1</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>布局 %1</translation>
-    </message>
-    <message>
-        <source>Posting</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>发送</translation>
-    </message>
-    <message>
-        <source>nothing is clicked or typed</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>无法点击或输入</translation>
-    </message>
-    <message>
-        <source>Listening</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>监听</translation>
-    </message>
-    <message>
-        <source>actions are not heard and Esc does not stop a run</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>无法监听操作，Esc 也不能停止运行</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>图像</translation>
-    </message>
-    <message>
-        <source>the screen is neither shown nor recorded</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>屏幕既不能显示也不能录制</translation>
-    </message>
-    <message>
-        <source>Fast pictures</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>快速图像</translation>
-    </message>
-    <message>
-        <source>pictures of the screen come slowly</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>屏幕图像会变慢</translation>
-    </message>
-    <message>
-        <source>Displays</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>显示器</translation>
-    </message>
-    <message>
-        <source>several displays are taken for one</source>
-        <extracomment>X11Facts</extracomment>
-        <translation>多个显示器会被视为一个</translation>
-    </message>
-    <message>
-        <source>Position the cursor over the target — grabbing in %1s · Esc to cancel</source>
-        <extracomment>LocationPicker</extracomment>
-        <translation>将光标移到目标上——%1 秒后获取 · 按 Esc 取消</translation>
-    </message>
-    <message>
-        <source>Pick on screen — position the cursor over the target.</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>在屏幕上选取——将光标移到目标上。</translation>
-    </message>
-    <message>
-        <source>Pick Location</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>选取位置</translation>
-    </message>
-    <message>
-        <source>Captured target at (%1, %2)</source>
-        <extracomment>PickLocationController</extracomment>
-        <translation>已在 (%1, %2) 获取目标</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <extracomment>Autosave, RestorePanel</extracomment>
-        <translation>恢复</translation>
-    </message>
-    <message>
-        <source>Velvane did not end properly the last time.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>Velvane 上次未正常结束。</translation>
-    </message>
-    <message>
-        <source>These demos have changes that were not saved. What is not checked is offered again at the next start.</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>这些演示有未保存的更改。未勾选的会在下次启动时再次提供。</translation>
-    </message>
-    <message>
-        <source>Demos with changes that were not saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>有未保存更改的演示</translation>
-    </message>
-    <message>
-        <source>Check the demos that you mean</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>勾选相应的演示</translation>
-    </message>
-    <message>
-        <source>never saved</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>从未保存</translation>
-    </message>
-    <message>
-        <source>%1 — %2, %3</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>%1 — %2，%3</translation>
-    </message>
-    <message>
-        <source>Open the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>打开勾选的演示</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>稍后</translation>
-    </message>
-    <message>
-        <source>Ask again at the next start</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>下次启动时再次询问</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>放弃</translation>
-    </message>
-    <message>
-        <source>Give up the changes of the checked demos</source>
-        <extracomment>RestorePanel</extracomment>
-        <translation>放弃勾选演示的更改</translation>
-    </message>
-    <message>
-        <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>录制已停止：%1</translation>
-    </message>
-    <message>
-        <source>Recording saved to %1%2 — revealed in Finder.</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>录像已保存到 %1%2——已在文件管理器中显示。</translation>
-    </message>
-    <message>
-        <source> (window not found — recorded full screen)</source>
-        <extracomment>LiveRunController</extracomment>
-        <translation>（未找到窗口——录制了整个屏幕）</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,8 @@
 #include "model/propertylist/BinaryReader.h"
 #include "model/propertylist/BinaryWriter.h"
 
+#include <QCoreApplication>
+
 namespace velvane {
 
 namespace {
@@ -55,7 +57,7 @@ QByteArray KeptDemo::contents() const
 KeptDemo KeptDemo::from(const QByteArray &contents)
 {
     if (!BinaryReader::recognises(contents))
-        throw DocumentError(QStringLiteral("not a property list"));
+        throw DocumentError(QCoreApplication::translate("KeptDemo", "not a property list"));
     const PropertyList root = BinaryReader::read(contents);
     const Fields fields(root, 0);
     KeptDemo kept{

@@ -3,6 +3,7 @@
 #include "base/WholeFile.h"
 #include "model/DocumentError.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
@@ -99,7 +100,8 @@ std::optional<QString> KeptSession::begin()
     const QDir all(QFileInfo(m_path).path());
     const QString made = all.filePath(u'.' + QFileInfo(m_path).fileName());
     if (!QDir().mkpath(all.path()))
-        return QStringLiteral("the folder %1 cannot be made").arg(all.path());
+        return QCoreApplication::translate("KeptSession", "the folder %1 cannot be made")
+            .arg(all.path());
     ::mkdir(QFile::encodeName(made).constData(), ownerOnly);
     m_lock = openLock(made, O_CREAT);
     if (m_lock >= 0) {

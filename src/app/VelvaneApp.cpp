@@ -3,6 +3,7 @@
 #include "app/EditorWindow.h"
 #include "app/StartWindow.h"
 #include "app/UpdaterController.h"
+#include "cli/Console.h"
 #include "editor/Theme.h"
 #include "language/Languages.h"
 #include "model/DocumentError.h"
@@ -33,10 +34,10 @@ void oneLineWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QSt
 {
     if (type != QtFatalMsg)
         return;
-    std::cerr
-        << "velvane: the display "
-        << qEnvironmentVariable("DISPLAY", qEnvironmentVariable("WAYLAND_DISPLAY")).toStdString()
-        << " cannot be opened\n";
+    const QString display =
+        qEnvironmentVariable("DISPLAY", qEnvironmentVariable("WAYLAND_DISPLAY"));
+    std::cerr << "velvane: "
+              << cli::tr("the display %1 cannot be opened").arg(display).toStdString() << '\n';
     std::_Exit(1);
 }
 
@@ -151,7 +152,8 @@ void VelvaneApp::openNewIfNone()
 int VelvaneApp::run(int &argc, char **argv, const Start &start)
 {
     if (!hasDisplay()) {
-        std::cerr << "velvane: there is no display to open a window on (see velvane --help)\n";
+        std::cerr << "velvane: " << cli::help("there is no display to open a window on") << ' '
+                  << cli::help("(see velvane --help)") << '\n';
         return 1;
     }
     const QVariantMap platformData = AppService::platformData();

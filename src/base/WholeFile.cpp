@@ -1,5 +1,6 @@
 #include "base/WholeFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -42,7 +43,7 @@ int sync(const QSaveFile &file)
 std::optional<QString> write(const QString &path, QByteArrayView bytes)
 {
     if (isPlantedLink(path))
-        return QStringLiteral("another user's link stands in its place");
+        return QCoreApplication::translate("WholeFile", "another user's link stands in its place");
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
     // Without a buffer of its own: it would not notice that a full disk took only a part of that.

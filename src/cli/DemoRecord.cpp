@@ -25,19 +25,20 @@ void checkWritable(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.isWritable() || !QFileInfo(file.absolutePath()).isWritable())
-        throw CommandError(QString::fromStdString(printable(path + ": is not writable")));
+        throw CommandError(QString::fromStdString(printable(tr("%1: is not writable").arg(path))));
 }
 
-std::string sizeText(QSizeF size)
+QString sizeText(QSizeF size)
 {
-    return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()).toStdString();
+    return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
 }
 
 void tellLargerScreen(const RecordActionsController &recording, QSizeF canvas, Console &console)
 {
     if (const std::optional<QSizeF> screen = recording.largerScreen())
-        console.err << "The screen (" << sizeText(*screen) << ") is larger than the canvas ("
-                    << sizeText(canvas) << "): what lies beyond is recorded at the canvas's edge."
+        console.err << printable(tr("The screen (%1) is larger than the canvas (%2): what lies "
+                                    "beyond is recorded at the canvas's edge.")
+                                     .arg(sizeText(*screen), sizeText(canvas)))
                     << std::endl;
 }
 

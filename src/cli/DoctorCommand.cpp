@@ -4,8 +4,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <iomanip>
-
 namespace velvane::cli {
 
 namespace {
@@ -26,8 +24,9 @@ Json reportJson(const Report &report)
 void printReport(const Report &report, std::ostream &out)
 {
     for (const DesktopFact &fact : report) {
-        out << (fact.remedy.isEmpty() ? "✓ " : "✗ ") << std::left << std::setw(20)
-            << fact.what.toStdString() << printable(fact.state) << '\n';
+        out << (fact.remedy.isEmpty() ? "✓ " : "✗ ")
+            << QString(fact.what + u' ').leftJustified(20).toStdString() << printable(fact.state)
+            << '\n';
         if (!fact.remedy.isEmpty())
             out << "  " << printable(fact.remedy) << '\n';
     }
@@ -49,10 +48,10 @@ int examine(bool asJson, Console &console)
 void addDoctor(CLI::App &app, Console &console, Action &chosen)
 {
     const auto asJson = std::make_shared<bool>(false);
-    CLI::App *command =
-        app.add_subcommand("doctor", "Say what this session can and cannot do, with remedies");
-    command->add_flag("--json", *asJson, "Print one JSON array instead of lines");
-    command->footer(R"(DESCRIPTION
+    CLI::App *command = app.add_subcommand(
+        "doctor", help("Say what this session can and cannot do, with remedies"));
+    command->add_flag("--json", *asJson, help("Print one JSON array instead of lines"));
+    command->footer(help(R"(DESCRIPTION
   Say what this session can and cannot do, a line for each capability, with
   the remedy below what is missing. Nothing is changed and nothing is shown on
   the screen.
@@ -61,7 +60,7 @@ JSON
   An object for each capability: what, works, state, remedy or null.
 
 EXAMPLE
-  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy')");
+  velvane doctor --json | jq -r '.[] | select(.works | not) | .remedy')"));
     command->callback([&chosen, &console, asJson] {
         chosen = [&console, asJson] { return examine(*asJson, console); };
     });

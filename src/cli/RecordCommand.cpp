@@ -9,9 +9,9 @@ void addRecord(CLI::App &app, Console &console, Action &chosen)
 {
     const auto demo = std::make_shared<std::string>();
     CLI::App *command =
-        app.add_subcommand("record", "Record real mouse and keyboard actions into a demo");
-    command->add_option("DEMO", *demo, "The demo that the steps are appended to")->required();
-    command->footer(R"(DESCRIPTION
+        app.add_subcommand("record", help("Record real mouse and keyboard actions into a demo"));
+    command->add_option("DEMO", *demo, help("The demo that the steps are appended to"))->required();
+    command->footer(help(R"(DESCRIPTION
   Record what is done with the mouse and the keyboard, after a countdown of
   2.1 seconds, until Esc is pressed, whatever has the keyboard; Ctrl-C and
   SIGTERM end it too. Nothing is kept from the programs in use. The steps are
@@ -22,7 +22,7 @@ void addRecord(CLI::App &app, Console &console, Action &chosen)
   the demo could not be saved.
 
 EXAMPLE
-  velvane new tour.velvane && velvane record tour.velvane)");
+  velvane new tour.velvane && velvane record tour.velvane)"));
     command->callback([&chosen, &console, demo] {
         chosen = [&console, demo] {
             const auto desktop = Desktop::open();

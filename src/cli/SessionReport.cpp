@@ -1,6 +1,7 @@
 #include "cli/SessionReport.h"
 
 #include "capture/Bookmark.h"
+#include "cli/Console.h"
 #include "media/EncoderInfo.h"
 
 #include <QDir>
@@ -25,14 +26,14 @@ DesktopFact displayServer(Desktop &desktop)
     const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
     const QString x11 = qEnvironmentVariable("DISPLAY");
     if (!wayland.isEmpty())
-        return {"Display server", "Wayland (" + wayland + ')', {}};
+        return {tr("Display server"), "Wayland (" + wayland + ')', {}};
     if (!x11.isEmpty() && desktop.screens().pointer())
-        return {"Display server", desktop.description(), {}};
+        return {tr("Display server"), desktop.description(), {}};
     if (!x11.isEmpty())
-        return {"Display server", "X11 (" + x11 + "), which does not answer",
-                "Start this in the desktop session, where DISPLAY and XAUTHORITY are right."};
-    return {"Display server", "none",
-            "Rendering needs none; the editor does: start it in a desktop session."};
+        return {tr("Display server"), tr("X11 (%1), which does not answer").arg(x11),
+                tr("Start this in the desktop session, where DISPLAY and XAUTHORITY are right.")};
+    return {tr("Display server"), tr("none"),
+            tr("Rendering needs none; the editor does: start it in a desktop session.")};
 }
 
 // What the desktop lets this program do, with its permission.
@@ -43,16 +44,16 @@ DesktopFact ability(const QString &what, const Facility &facility, Permissions &
     QString reason = permissions.explanation(permission);
     if (reason.isEmpty())
         reason = facility.missing();
-    return {what, reason.isEmpty() ? "works" : "not here", reason};
+    return {what, reason.isEmpty() ? tr("works") : tr("not here"), reason};
 }
 
 DesktopFact captionFont()
 {
     const QString family = "Inter";
     if (QFontDatabase::hasFamily(family))
-        return {"Caption font", family + ", semibold", {}};
-    return {"Caption font", "Inter is missing, another sans-serif stands in",
-            "Install fonts-inter."};
+        return {tr("Caption font"), tr("%1, semibold").arg(family), {}};
+    return {tr("Caption font"), tr("Inter is missing, another sans-serif stands in"),
+            tr("Install %1.").arg("fonts-inter")};
 }
 
 // Is there any font with all of these characters' glyphs?
@@ -72,7 +73,7 @@ DesktopFact glyphs(const QString &what, const QString &characters, const QString
 {
     if (canShow(characters))
         return {what, characters, {}};
-    return {what, "no font has all of " + characters, "Install " + package + '.'};
+    return {what, tr("no font has all of %1").arg(characters), tr("Install %1.").arg(package)};
 }
 
 DesktopFact pictures()
@@ -80,7 +81,7 @@ DesktopFact pictures()
     QStringList formats;
     for (const QByteArray &format : QImageReader::supportedImageFormats())
         formats << QString::fromLatin1(format);
-    return {"Backdrop pictures", formats.join(' '), {}};
+    return {tr("Backdrop pictures"), formats.join(' '), {}};
 }
 
 QFileInfo nearestExisting(const QString &folder)
@@ -97,28 +98,29 @@ DesktopFact sessionKind(const QString &type, const QString &desktop)
 {
     const QString name = desktop.isEmpty() ? QString() : ", " + desktop;
     if (type == "wayland")
-        return {"Session", "Wayland" + name,
-                "Log in with an X11 session: in a Wayland session demos can be composed and "
-                "rendered, not run or recorded."};
+        return {tr("Session"), "Wayland" + name,
+                tr("Log in with an X11 session: in a Wayland session demos can be composed and "
+                   "rendered, not run or recorded.")};
     if (type == "x11")
-        return {"Session", "X11" + name, {}};
-    return {"Session", (type.isEmpty() ? QString("not told") : type) + name, {}};
+        return {tr("Session"), "X11" + name, {}};
+    return {tr("Session"), (type.isEmpty() ? tr("not told") : type) + name, {}};
 }
 
 DesktopFact roomForMovies(const QString &folder, qint64 bytes)
 {
-    const QString state = QString("%1, %2 free").arg(folder, QLocale::c().formattedDataSize(bytes));
+    const QString state = tr("%1, %2 free").arg(folder, QLocale::c().formattedDataSize(bytes));
     if (bytes >= littleRoom)
-        return {"Recordings", state, {}};
-    return {"Recordings", state, "Make room there: a recording ends when the disk is full."};
+        return {tr("Recordings"), state, {}};
+    return {tr("Recordings"), state,
+            tr("Make room there: a recording ends when the disk is full.")};
 }
 
 DesktopFact movieFolder(const QString &folder)
 {
     const QFileInfo place = nearestExisting(folder);
     if (!place.isDir() || !place.isWritable())
-        return {"Recordings", QString("%1 cannot be written to").arg(folder),
-                QString("Make %1 a folder that you may write to.").arg(place.filePath())};
+        return {tr("Recordings"), tr("%1 cannot be written to").arg(folder),
+                tr("Make %1 a folder that you may write to.").arg(place.filePath())};
     return roomForMovies(folder, QStorageInfo(place.filePath()).bytesAvailable());
 }
 
@@ -126,10 +128,10 @@ DesktopFact locale(const QString &name, const QByteArray &characterSet)
 {
     const QString state = QString("%1, %2").arg(name, QString::fromLatin1(characterSet));
     if (characterSet == "UTF-8")
-        return {"Language", state, {}};
-    return {"Language", state,
-            "Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read "
-            "as they are written."};
+        return {tr("Language"), state, {}};
+    return {tr("Language"), state,
+            tr("Set LANG to a UTF-8 locale, such as C.UTF-8, so that file names and texts are read "
+               "as they are written.")};
 }
 
 std::vector<DesktopFact> sessionReport(Desktop &desktop)
@@ -143,15 +145,17 @@ std::vector<DesktopFact> sessionReport(Desktop &desktop)
     for (const DesktopFact &fact : desktop.facts())
         report.push_back(fact);
     for (const DesktopFact &fact : {
-             ability("Input posting", desktop.input(), permissions, Permission::accessibility),
-             ability("Input listening", desktop.tap(), permissions, Permission::inputMonitoring),
-             ability("Screen capture", desktop.capture(), permissions, Permission::screenRecording),
+             ability(tr("Input posting"), desktop.input(), permissions, Permission::accessibility),
+             ability(tr("Input listening"), desktop.tap(), permissions,
+                     Permission::inputMonitoring),
+             ability(tr("Screen capture"), desktop.capture(), permissions,
+                     Permission::screenRecording),
              movieFolder(Bookmark::recordingsFolder()),
-             DesktopFact{"H.264 encoder", EncoderInfo::encoder(), {}},
-             DesktopFact{"Movie files", EncoderInfo::muxer(), {}},
+             DesktopFact{tr("H.264 encoder"), EncoderInfo::encoder(), {}},
+             DesktopFact{tr("Movie files"), EncoderInfo::muxer(), {}},
              captionFont(),
-             glyphs("Shortcut glyphs", QStringLiteral("⌃⌥⇧⌘⌫↩"), "fonts-dejavu-core"),
-             glyphs("Emoji", QStringLiteral("👍🎉"), "fonts-noto-color-emoji"),
+             glyphs(tr("Shortcut glyphs"), QStringLiteral("⌃⌥⇧⌘⌫↩"), "fonts-dejavu-core"),
+             glyphs(tr("Emoji"), QStringLiteral("👍🎉"), "fonts-noto-color-emoji"),
              pictures(),
              locale(QLocale::system().name(), nl_langinfo(CODESET)),
          })

@@ -3,6 +3,7 @@
 #include "base/WholeFile.h"
 #include "media/MovieError.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -34,8 +35,9 @@ MovieFile::MovieFile(const QString &path, Existing existing)
         removeExisting(name);
     // One that cannot be removed; the system itself follows none that comes now.
     if (existing == Existing::replace && WholeFile::isPlantedLink(path))
-        throw MovieError(MovieError::Cause::file,
-                         QStringLiteral("another user's link stands in its place"));
+        throw MovieError(
+            MovieError::Cause::file,
+            QCoreApplication::translate("MovieFile", "another user's link stands in its place"));
     // Not blocking: a named pipe would otherwise wait for its reader.
     constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK;
     m_file =

@@ -7,6 +7,7 @@
 #include "model/propertylist/BinaryWriter.h"
 #include "model/propertylist/XmlReader.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -16,6 +17,11 @@ namespace {
 
 // Bytes; far more than a demo with the largest backdrop takes.
 constexpr qint64 maxFileSize = qint64(1) << 30;
+
+QString tr(const char *english)
+{
+    return QCoreApplication::translate("DemoDocument", english);
+}
 
 // Could this be a property list of either form? XML may start with a byte order mark or spaces.
 bool looksReadable(QByteArrayView start)
@@ -29,7 +35,7 @@ bool looksReadable(QByteArrayView start)
 PropertyList propertyList(const QByteArray &contents)
 {
     if (!looksReadable(contents))
-        throw DocumentError(QStringLiteral("not a property list"));
+        throw DocumentError(tr("not a property list"));
     return BinaryReader::recognises(contents) ? BinaryReader::read(contents)
                                               : XmlReader::read(contents);
 }
@@ -38,9 +44,9 @@ PropertyList propertyList(const QByteArray &contents)
 std::optional<QString> obstacle(const QFileInfo &info)
 {
     if (info.isDir())
-        return QStringLiteral("is a folder");
+        return tr("is a folder");
     if (!info.isFile())
-        return QStringLiteral("is not a regular file");
+        return tr("is not a regular file");
     return {};
 }
 
@@ -48,20 +54,20 @@ QByteArray bytesOf(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        throw DocumentError(QStringLiteral("no such file"));
+        throw DocumentError(tr("no such file"));
     if (const auto found = obstacle(info))
         throw DocumentError(*found);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DocumentError(QStringLiteral("cannot be opened: %1").arg(file.errorString()));
+        throw DocumentError(tr("cannot be opened: %1").arg(file.errorString()));
     if (file.size() > maxFileSize)
-        throw DocumentError(QStringLiteral("too large, %1 bytes").arg(file.size()));
+        throw DocumentError(tr("too large, %1 bytes").arg(file.size()));
     constexpr qint64 aFew = 16;
     if (!looksReadable(file.peek(aFew)))
-        throw DocumentError(QStringLiteral("not a property list"));
+        throw DocumentError(tr("not a property list"));
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw DocumentError(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+        throw DocumentError(tr("cannot be read: %1").arg(file.errorString()));
     return bytes;
 }
 
@@ -107,7 +113,7 @@ std::optional<QString> DemoDocument::write(const ProjectFile &file, const QStrin
             return found;
     }
     if (const auto failure = WholeFile::write(path, contents(file)))
-        return QStringLiteral("cannot be written: %1").arg(*failure);
+        return tr("cannot be written: %1").arg(*failure);
     return {};
 }
 
