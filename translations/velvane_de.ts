@@ -752,6 +752,26 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Dauer ändern</translation>
     </message>
     <message>
+        <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>ein Film von %1 × %2 Pixeln ist nicht möglich: Seiten haben 1 bis %3 Pixel</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels is not possible: it has %3 macroblocks, and H.264 allows %4</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>ein Film von %1 × %2 Pixeln ist nicht möglich: Er hat %3 Makroblöcke, und H.264 erlaubt %4</translation>
+    </message>
+    <message>
+        <source>%1 frames per second are not possible: at least 1</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>%1 Bilder pro Sekunde sind nicht möglich: mindestens 1</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>ein Film von %1 × %2 Pixeln mit %3 Bildern pro Sekunde ist nicht möglich: Er hat %4 Makroblöcke pro Sekunde, und H.264 erlaubt %5</translation>
+    </message>
+    <message>
         <source>Delete Step</source>
         <extracomment>InspectorPane, StepList, StepCommands</extracomment>
         <translation>Schritt löschen</translation>

@@ -752,6 +752,26 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Cambiar duración</translation>
     </message>
     <message>
+        <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>una película de %1 × %2 píxeles no es posible: los lados van de 1 a %3 píxeles</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels is not possible: it has %3 macroblocks, and H.264 allows %4</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>una película de %1 × %2 píxeles no es posible: tiene %3 macrobloques, y H.264 permite %4</translation>
+    </message>
+    <message>
+        <source>%1 frames per second are not possible: at least 1</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>%1 fotogramas por segundo no son posibles: al menos 1</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>una película de %1 × %2 píxeles a %3 fotogramas por segundo no es posible: tiene %4 macrobloques por segundo, y H.264 permite %5</translation>
+    </message>
+    <message>
         <source>Delete Step</source>
         <extracomment>InspectorPane, StepList, StepCommands</extracomment>
         <translation>Eliminar paso</translation>

@@ -752,6 +752,26 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Modifier la durée</translation>
     </message>
     <message>
+        <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>un film de %1 × %2 pixels est impossible : les côtés vont de 1 à %3 pixels</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels is not possible: it has %3 macroblocks, and H.264 allows %4</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>un film de %1 × %2 pixels est impossible : il a %3 macroblocs, et H.264 en permet %4</translation>
+    </message>
+    <message>
+        <source>%1 frames per second are not possible: at least 1</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>%1 images par seconde sont impossibles : au moins 1</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>un film de %1 × %2 pixels à %3 images par seconde est impossible : il a %4 macroblocs par seconde, et H.264 en permet %5</translation>
+    </message>
+    <message>
         <source>Delete Step</source>
         <extracomment>InspectorPane, StepList, StepCommands</extracomment>
         <translation>Supprimer l’étape</translation>

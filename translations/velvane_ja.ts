@@ -752,6 +752,26 @@ Results go to standard output, messages and progress to standard error.
         <translation>時間を変更</translation>
     </message>
     <message>
+        <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>%1×%2ピクセルのムービーは作れません: 各辺は1〜%3ピクセルです</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels is not possible: it has %3 macroblocks, and H.264 allows %4</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>%1×%2ピクセルのムービーは作れません: マクロブロックが%3個あり、H.264の上限は%4個です</translation>
+    </message>
+    <message>
+        <source>%1 frames per second are not possible: at least 1</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>毎秒%1フレームにはできません: 1以上にしてください</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>%1×%2ピクセル、毎秒%3フレームのムービーは作れません: マクロブロックが毎秒%4個あり、H.264の上限は毎秒%5個です</translation>
+    </message>
+    <message>
         <source>Delete Step</source>
         <extracomment>InspectorPane, StepList, StepCommands</extracomment>
         <translation>ステップを削除</translation>

@@ -751,6 +751,26 @@ Results go to standard output, messages and progress to standard error.
         <translation>更改时长</translation>
     </message>
     <message>
+        <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>无法制作 %1 × %2 像素的影片：边长须为 1 到 %3 像素</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels is not possible: it has %3 macroblocks, and H.264 allows %4</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>无法制作 %1 × %2 像素的影片：它有 %3 个宏块，而 H.264 最多允许 %4 个</translation>
+    </message>
+    <message>
+        <source>%1 frames per second are not possible: at least 1</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>无法使用每秒 %1 帧：至少为 1</translation>
+    </message>
+    <message>
+        <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
+        <extracomment>H264MovieWriter</extracomment>
+        <translation>无法制作 %1 × %2 像素、每秒 %3 帧的影片：它每秒有 %4 个宏块，而 H.264 最多允许 %5 个</translation>
+    </message>
+    <message>
         <source>Delete Step</source>
         <extracomment>InspectorPane, StepList, StepCommands</extracomment>
         <translation>删除步骤</translation>

@@ -6,6 +6,7 @@
 #include "media/Mp4Muxer.h"
 #include "media/Yuv420Converter.h"
 
+#include <QCoreApplication>
 #include <QtDebug>
 
 #include <cmath>
@@ -25,6 +26,11 @@ qint64 macroblocksOf(QSize size)
 {
     const auto along = [](int side) { return (qint64(side) + macroblock - 1) / macroblock; };
     return along(size.width()) * along(size.height());
+}
+
+QString tr(const char *english)
+{
+    return QCoreApplication::translate("H264MovieWriter", english);
 }
 
 MovieError refusal(const QString &reason)
@@ -110,29 +116,30 @@ void H264MovieWriter::Impl::fail() const
 
 void H264MovieWriter::check(QSize size, int fps)
 {
-    const QString shape =
-        QStringLiteral("a movie of %1 × %2 pixels").arg(size.width()).arg(size.height());
     if (std::min(size.width(), size.height()) < 1
         || std::max(size.width(), size.height()) > longestSide)
-        throw refusal(
-            shape
-            % QStringLiteral(" is not possible: sides are from 1 to %1 pixels").arg(longestSide));
+        throw refusal(tr("a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels")
+                          .arg(size.width())
+                          .arg(size.height())
+                          .arg(longestSide));
     const qint64 macroblocks = macroblocksOf(size);
     if (macroblocks > macroblocksPerFrame)
-        throw refusal(
-            shape
-            % QStringLiteral(" is not possible: it has %1 macroblocks, and H.264 allows %2")
-                  .arg(macroblocks)
-                  .arg(macroblocksPerFrame));
+        throw refusal(tr("a movie of %1 × %2 pixels is not possible: it has %3 macroblocks, and "
+                         "H.264 allows %4")
+                          .arg(size.width())
+                          .arg(size.height())
+                          .arg(macroblocks)
+                          .arg(macroblocksPerFrame));
     if (fps < 1)
-        throw refusal(QStringLiteral("%1 frames per second are not possible: at least 1").arg(fps));
+        throw refusal(tr("%1 frames per second are not possible: at least 1").arg(fps));
     if (macroblocks * fps > macroblocksPerSecond)
-        throw refusal(shape
-                      % QStringLiteral(" at %1 frames per second is not possible: it has %2 "
-                                       "macroblocks per second, and H.264 allows %3")
-                            .arg(fps)
-                            .arg(macroblocks * fps)
-                            .arg(macroblocksPerSecond));
+        throw refusal(tr("a movie of %1 × %2 pixels at %3 frames per second is not possible: it "
+                         "has %4 macroblocks per second, and H.264 allows %5")
+                          .arg(size.width())
+                          .arg(size.height())
+                          .arg(fps)
+                          .arg(macroblocks * fps)
+                          .arg(macroblocksPerSecond));
 }
 
 H264MovieWriter::H264MovieWriter(const QString &path, QSize size, int fps, qint64 expectedFrames)
