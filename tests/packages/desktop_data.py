@@ -20,7 +20,7 @@ FORMS = {"binary": plistlib.FMT_BINARY, "XML": plistlib.FMT_XML}
 def entry(path):
     parser = configparser.ConfigParser(interpolation=None, delimiters="=")
     parser.optionxform = str
-    parser.read(path)
+    parser.read(path, encoding="utf-8")
     return parser
 
 
@@ -53,6 +53,24 @@ class Entries(Staged):
         actions = entries["Desktop Entry"]["Actions"].rstrip(";").split(";")
         groups = [name for name in entries.sections() if name.startswith("Desktop Action ")]
         self.assertEqual(groups, [f"Desktop Action {action}" for action in actions])
+
+    def test_what_desktops_show_of_it_is_in_every_language(self):
+        languages = [path.stem.removeprefix("velvane_")
+                     for path in sorted((SOURCE / "translations").glob("*.ts"))]
+        self.assertTrue(languages)
+        entries = entry(self.entry_path)
+        shown = {"Desktop Entry": ["GenericName", "Comment", "Keywords"],
+                 "Desktop Action new-demo": ["Name"]}
+        for group, keys in shown.items():
+            for key in keys:
+                for language in languages:
+                    text = entries[group].get(f"{key}[{language}]")
+                    self.assertTrue(text, f"{key} in {language}")
+                    self.assertNotEqual(text, entries[group][key])
+        path = self.share / "metainfo" / f"{APPLICATION}.metainfo.xml"
+        told = [summary.get("{http://www.w3.org/XML/1998/namespace}lang")
+                for summary in Xml.parse(path).getroot().findall("summary")]
+        self.assertEqual(told, [None, *languages])
 
     def test_the_metadata_is_valid_and_names_what_is_installed(self):
         path = self.share / "metainfo" / f"{APPLICATION}.metainfo.xml"
