@@ -2034,7 +2034,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     <message>
         <source>none</source>
         <extracomment>SessionServices, cli</extracomment>
-        <translation>keine</translation>
+        <translation>nicht vorhanden</translation>
     </message>
     <message>
         <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>

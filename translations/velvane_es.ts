@@ -2034,7 +2034,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     <message>
         <source>none</source>
         <extracomment>SessionServices, cli</extracomment>
-        <translation>ninguno</translation>
+        <translation>no hay</translation>
     </message>
     <message>
         <source>Start Velvane from the desktop, or below dbus-run-session: windows cannot be shared with a running Velvane without it.</source>

@@ -74,6 +74,9 @@ H.264 movie or performed on the real desktop.)"),
     addRun(*m_app, m_console, m_action);
     addRecord(*m_app, m_console, m_action);
     addDoctor(*m_app, m_console, m_action);
+    // A subcommand is made with its help before it takes over the name of the group.
+    for (CLI::App *command : m_app->get_subcommands(nullptr))
+        command->get_help_ptr()->group(help("Options"));
     // Last, since subcommands take over the footer that stands when they are added.
     m_app->footer(help(R"(EXIT STATUS
   0  success

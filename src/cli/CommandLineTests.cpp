@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Json.h"
+#include "language/Languages.h"
 #include "model/DemoDocument.h"
 #include "model/ProjectFile.h"
 #include "render/FrameRenderer.h"
@@ -308,6 +309,18 @@ TEST_F(CommandLineTest, HelpOfEverySubcommandIsAResult)
         EXPECT_EQ(result.err, "") << name;
     }
     EXPECT_EQ(runWith({"--version"}).out, "velvane " VELVANE_VERSION "\n");
+}
+
+TEST_F(CommandLineTest, HelpInAnotherLanguageHasOneGroupOfOptions)
+{
+    Languages::choose("de");
+    const std::string help = runWith({"doctor", "--help"}).out;
+    Languages::choose("en");
+    EXPECT_EQ(help.find("Options:"), std::string::npos) << help;
+    const std::size_t group = help.find("Optionen:");
+    ASSERT_NE(group, std::string::npos) << help;
+    EXPECT_LT(group, help.find("--help"));
+    EXPECT_LT(group, help.find("--json"));
 }
 
 TEST_F(CommandLineTest, ACanvasThatCannotBeDrawnIsRefused)

@@ -1,5 +1,6 @@
 #include "cli/DemoReport.h"
 
+#include "cli/Columns.h"
 #include "cli/Console.h"
 #include "model/StepList.h"
 #include "timeline/Timeline.h"
@@ -76,13 +77,13 @@ void printRow(std::ostream &out, const QString &number, const QString &what, con
     constexpr int width = 46;
     const QString summary = QString::fromStdString(printable(what, width));
     const QString row = number.rightJustified(4) + "  " + summary;
-    out << (times.isEmpty() ? row : row.leftJustified(width + 7) + times).toStdString() << '\n';
+    out << (times.isEmpty() ? row : Columns::left(row, width + 7) + times).toStdString() << '\n';
 }
 
 void printSettings(const Project &project, Seconds total, std::ostream &out)
 {
     const auto setting = [&out](const QString &name, const QString &value) {
-        out << QString(name + u' ').leftJustified(11).toStdString() << value.toStdString() << '\n';
+        out << Columns::left(name + u' ', 11).toStdString() << value.toStdString() << '\n';
     };
     const QSizeF canvas = project.canvasSize();
     const QPointF start = project.startPoint();
@@ -127,8 +128,8 @@ void printDemoTable(const DemoDocument &demo, std::ostream &out)
     const Timeline timeline(project.snapshot());
     printSettings(project, timeline.total(), out);
     printRow(out, "", tr("Step"),
-             tr("Start").rightJustified(9) + tr("End").rightJustified(9)
-                 + tr("Action").rightJustified(9) + tr("Pause").rightJustified(9));
+             Columns::right(tr("Start"), 9) + Columns::right(tr("End"), 9)
+                 + Columns::right(tr("Action"), 9) + Columns::right(tr("Pause"), 9));
     const auto numbers = StepList::displayNumbers(project.steps());
     auto segment = timeline.steps().begin();
     for (qsizetype i = 0; i < project.steps().size(); ++i) {

@@ -1,3 +1,4 @@
+#include "cli/Columns.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/SessionReport.h"
@@ -25,8 +26,7 @@ void printReport(const Report &report, std::ostream &out)
 {
     for (const DesktopFact &fact : report) {
         out << (fact.remedy.isEmpty() ? "✓ " : "✗ ")
-            << QString(fact.what + u' ').leftJustified(20).toStdString() << printable(fact.state)
-            << '\n';
+            << Columns::left(fact.what + u' ', 20).toStdString() << printable(fact.state) << '\n';
         if (!fact.remedy.isEmpty())
             out << "  " << printable(fact.remedy) << '\n';
     }
