@@ -2044,7 +2044,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     <message>
         <source>Desktop portal</source>
         <extracomment>SessionServices</extracomment>
-        <translation>Portal de escritorio</translation>
+        <translation>Portal escritorio</translation>
     </message>
     <message>
         <source>there</source>

@@ -2044,7 +2044,7 @@ Results go to standard output, messages and progress to standard error.
     <message>
         <source>Desktop portal</source>
         <extracomment>SessionServices</extracomment>
-        <translation>デスクトップポータル</translation>
+        <translation>ポータル</translation>
     </message>
     <message>
         <source>there</source>
