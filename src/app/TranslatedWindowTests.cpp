@@ -87,7 +87,9 @@ int lackingWidth(const QLabel *label)
         return 0;
     if (label->wordWrap())
         return label->heightForWidth(label->width()) - label->height();
-    return label->sizeHint().width() - label->width();
+    // Not the size hint, which counts any width that was fixed before.
+    return label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width()
+           - label->contentsRect().width();
 }
 
 int lackingWidth(const QAbstractButton *button)

@@ -3,6 +3,8 @@
 #include "editor/Metrics.h"
 #include "editor/Theme.h"
 
+#include <QEvent>
+
 namespace velvane {
 
 namespace {
@@ -30,13 +32,23 @@ FormRow::FormRow(const QString &label, QWidget *parent)
 
 void FormRow::setLabelColumn(int width)
 {
+    m_column = width;
     m_label->ensurePolished();
     // Not the label's size hint, which counts the width that was fixed before.
-    const int natural = m_label->fontMetrics().horizontalAdvance(m_label->text());
+    const int natural = m_label->fontMetrics().size(Qt::TextShowMnemonic, m_label->text()).width();
     const bool fits = natural <= width - textGap;
     m_whole->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_whole->setSpacing(fits ? textGap : 0);
     m_label->setFixedWidth(fits ? width - textGap : natural);
+}
+
+bool FormRow::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    // The label may be of other letters now than where it was made.
+    if (event->type() == QEvent::Show || event->type() == QEvent::StyleChange)
+        setLabelColumn(m_column);
+    return done;
 }
 
 void FormRow::add(QWidget *control, int stretch)

@@ -21,7 +21,11 @@ public:
     /// `width`: from the form's left edge to the first control.
     void setLabelColumn(int width);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    int m_column = 0;
     QBoxLayout *m_whole;
     QHBoxLayout *m_row;
     QLabel *m_label;

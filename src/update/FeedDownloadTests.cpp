@@ -162,7 +162,9 @@ TEST_F(FeedDownloadTest, TooManyRedirectsAreRefused)
 {
     server.redirect("/feed");
     EXPECT_EQ(outcome(), "The update server redirects too often.");
-    EXPECT_EQ(server.requests().size(), request.redirects + 1);
+    EXPECT_GE(server.requests().size(), request.redirects + 1);
+    // A request whose connection the server has just closed is sent once more.
+    EXPECT_LE(server.requests().size(), 2 * (request.redirects + 1));
 }
 
 TEST_F(FeedDownloadTest, ARedirectAwayFromTlsIsRefused)
