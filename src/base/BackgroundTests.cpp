@@ -67,8 +67,10 @@ TEST(Background, CallsForTheMainThreadKeepTheirOrder)
 TEST(Background, ItIsBusyUntilTheTaskHasEnded)
 {
     EXPECT_FALSE(isBackgroundBusy());
-    QCoro::Task<> task = inBackground([] {});
+    std::latch mayEnd(1);
+    QCoro::Task<> task = inBackground([&] { mayEnd.wait(); });
     EXPECT_TRUE(isBackgroundBusy());
+    mayEnd.count_down();
     runToEnd(std::move(task));
     EXPECT_FALSE(isBackgroundBusy());
 }
