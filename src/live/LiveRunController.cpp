@@ -1,7 +1,6 @@
 #include "live/LiveRunController.h"
 
 #include "base/Background.h"
-#include "base/KeyCode.h"
 #include "capture/Bookmark.h"
 #include "live/Applications.h"
 #include "live/Run.h"
@@ -16,10 +15,7 @@ namespace velvane {
 
 namespace {
 
-constexpr int firstNumber = 3;
 constexpr Seconds eachNumber = 0.8s;
-// How soon the countdown notices that it has been cancelled.
-constexpr Seconds glance = 0.1s;
 
 // The application whose window is recorded: that of the first switch.
 QString targetOf(const Snapshot &demo)
@@ -37,6 +33,7 @@ LiveRunController::LiveRunController(Project &project, Playback &playback, Deskt
     , m_playback(playback)
     , m_desktop(desktop)
     , m_readOptions(std::move(options))
+    , m_stop(desktop)
 {}
 
 LiveRunController::~LiveRunController()
@@ -112,10 +109,9 @@ bool LiveRunController::begin(const Snapshot &demo)
     m_recordingPath.clear();
     QString refused = refusal(demo);
     if (refused.isEmpty()) {
-        m_liveCancel = false;
-        m_escMonitor = m_desktop.keys().watch(KeyCode::escape, [this] { cancel(); });
+        m_stop.clear();
         // Nothing else could stop a run.
-        if (!m_escMonitor)
+        if (!m_stop.watchEscape())
             refused = tr("Esc cannot be watched for here, so nothing was run.");
     }
     if (!refused.isEmpty()) {
@@ -130,25 +126,16 @@ bool LiveRunController::begin(const Snapshot &demo)
 
 QCoro::Task<> LiveRunController::countDown()
 {
-    for (int n = m_options.countdown ? firstNumber : 0; n > 0 && !m_liveCancel; --n) {
-        setLiveCountdown(n);
-        co_await rest(eachNumber);
-    }
+    const std::function<void(int)> show = [this](int number) { setLiveCountdown(number); };
+    if (m_options.countdown)
+        co_await m_stop.countDown(eachNumber, show);
     setLiveCountdown(0);
-}
-
-QCoro::Task<> LiveRunController::rest(Seconds duration)
-{
-    Clock &clock = m_desktop.clock();
-    const Seconds end = clock.now() + duration;
-    while (!m_liveCancel && clock.now() < end)
-        co_await clock.delay(std::min(glance, end - clock.now()));
 }
 
 // A demo that moves between applications is recorded whole.
 void LiveRunController::startRecording(const Snapshot &demo)
 {
-    if (m_options.recordMode == RecordMode::off || m_liveCancel)
+    if (m_options.recordMode == RecordMode::off || m_stop.isMade())
         return;
     const bool isWindow =
         m_options.recordMode == RecordMode::window && !StepList::hasSeveralSwitchApps(demo.steps);
@@ -167,10 +154,10 @@ void LiveRunController::startRecording(const Snapshot &demo)
 
 QCoro::Task<> LiveRunController::perform(const Snapshot &demo)
 {
-    if (m_liveCancel)
+    if (m_stop.isMade())
         co_return;
     setRunningLive(true);
-    const CancelCheck isCancelled = [this] { return m_liveCancel.load(); };
+    const CancelCheck isCancelled = [this] { return m_stop.isMade(); };
     const std::function<void()> run = [this, &demo, &isCancelled] {
         Live::run(m_desktop, demo, m_options.hideOthers, isCancelled);
     };
@@ -189,9 +176,9 @@ QCoro::Task<> LiveRunController::stopRecording()
 
 void LiveRunController::end()
 {
-    m_escMonitor.reset();
+    m_stop.stopWatching();
     setRunningLive(false);
-    m_outcome = m_liveCancel ? Outcome::stopped : Outcome::finished;
+    m_outcome = m_stop.isMade() ? Outcome::stopped : Outcome::finished;
     QString message = comeBack();
     if (!m_desktop.screens().pointer()) {
         message = tr("Live run stopped: the display has gone.");
@@ -209,7 +196,7 @@ QString LiveRunController::comeBack()
     m_desktop.shell().unhide();
     if (m_recordingPath.isEmpty()) {
         m_desktop.shell().activate();
-        return m_liveCancel ? tr("Live run stopped.") : tr("Live run finished.");
+        return m_stop.isMade() ? tr("Live run stopped.") : tr("Live run finished.");
     }
     // We come back in front when nothing else can.
     if (!m_desktop.shell().reveal(m_recordingPath))
@@ -223,12 +210,6 @@ QString LiveRunController::comeBack()
 QString LiveRunController::recordingMissing() const
 {
     return m_desktop.capture().missing();
-}
-
-void LiveRunController::cancel()
-{
-    m_liveCancel = true;
-    m_desktop.clock().wake();
 }
 
 bool LiveRunController::cancelThen(QObject *context, const std::function<void()> &again)

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "capture/RunRecorder.h"
+#include "capture/StopRequest.h"
 #include "live/RunOptions.h"
 #include "model/Project.h"
 #include "platform/Desktop.h"
 #include "timeline/Playback.h"
 
 #include <QCoroTask>
-
-#include <atomic>
 
 namespace velvane {
 
@@ -46,7 +45,7 @@ public:
     /// What the countdown shows; 0 when there is none.
     int liveCountdown() const { return m_liveCountdown; }
     /// Has the run been asked to stop?
-    bool liveCancel() const { return m_liveCancel; }
+    bool liveCancel() const { return m_stop.isMade(); }
 
     /// Runs the demo, from one step on when one is given. Ends after the report. Nothing happens
     /// while busy.
@@ -60,7 +59,7 @@ public:
     QString recordingMissing() const;
 
     /// Stops the run within one event, as Esc does. Any thread.
-    void cancel();
+    void cancel() { m_stop.make(); }
     /// For a window that is closing: while busy, cancels and returns true; the window then ignores
     /// the close, and `again` is called, queued, when the run is over.
     bool cancelThen(QObject *context, const std::function<void()> &again);
@@ -83,7 +82,6 @@ private:
     void setRunningLive(bool running);
     void setLiveCountdown(int number);
     QCoro::Task<> countDown();
-    QCoro::Task<> rest(Seconds duration);
     void startRecording(const Snapshot &demo);
     QCoro::Task<> perform(const Snapshot &demo);
     QCoro::Task<> stopRecording();
@@ -96,15 +94,13 @@ private:
     const std::function<RunOptions()> m_readOptions;
     RunOptions m_options;
     QString m_held;
-    Token m_escMonitor;
+    StopRequest m_stop;
     std::unique_ptr<RunRecorder> m_recorder;
     QString m_recordingPath;
     Outcome m_outcome = Outcome::refused;
     bool m_isBusy = false;
     bool m_isRunningLive = false;
     int m_liveCountdown = 0;
-    // Esc sets it on a thread of its own; the worker asks it.
-    std::atomic<bool> m_liveCancel = false;
 };
 
 } // namespace velvane
