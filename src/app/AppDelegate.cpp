@@ -81,6 +81,7 @@ void AppDelegate::sessionWillEnd(QSessionManager &session)
 bool AppDelegate::sessionMayEnd()
 {
     const bool mayEnd = m_autosave.keepAll();
+    m_documents.endInputThen([this] { m_autosave.keepAll(); });
     if (!mayEnd)
         m_documents.quit();
     else if (m_documents.taskbar().progress())
@@ -90,7 +91,11 @@ bool AppDelegate::sessionMayEnd()
 
 void AppDelegate::end()
 {
-    if (m_autosave.keepAll())
+    const bool isKept = m_autosave.keepAll();
+    // What was recorded, or clicked in our own windows by a run, comes with its end.
+    if (m_documents.endInputThen([this] { end(); }))
+        return;
+    if (isKept)
         m_documents.quitKept();
     else
         m_documents.quit();

@@ -1,3 +1,5 @@
+#include "app/AppDelegate.h"
+#include "app/Autosave.h"
 #include "app/DocumentsFixture.h"
 
 #include <QEventLoop>
@@ -70,6 +72,31 @@ TEST_F(ClosingDuringRun, QuittingWaitsForTheEndOfTheRun)
     EXPECT_FALSE(quit);
     waitForTheEnd();
     EXPECT_TRUE(quit);
+}
+
+TEST_F(ClosingDuringRun, ToldToEndItKeepsWhatCameUntilTheEndOfTheRunToo)
+{
+    edit(window);
+    qsizetype steps = 0;
+    {
+        Autosave autosave(documents, file("kept"));
+        AppDelegate delegate(documents, autosave);
+        bool ended = false;
+        QObject::connect(&delegate, &AppDelegate::terminated, [&] { ended = true; });
+        delegate.end();
+        EXPECT_FALSE(ended);
+        edit(window);
+        steps = project(window).steps().size();
+        waitForTheEnd();
+        EXPECT_FALSE(window);
+        EXPECT_TRUE(ended);
+    }
+    const auto left = KeptSession::left(file("kept"));
+    ASSERT_EQ(left.size(), 1U);
+    const QList<KeptDemo> demos = left[0]->demos();
+    ASSERT_EQ(demos.size(), 1);
+    ASSERT_TRUE(demos[0].demo);
+    EXPECT_EQ(demos[0].demo->steps.size(), steps);
 }
 
 } // namespace velvane

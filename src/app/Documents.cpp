@@ -175,6 +175,12 @@ void Documents::quitKept()
     closeAll();
 }
 
+bool Documents::endInputThen(const std::function<void()> &again)
+{
+    return std::any_of(m_windows.begin(), m_windows.end(),
+                       [&](EditorWindow *window) { return window->endInputThen(again); });
+}
+
 void Documents::closeAll()
 {
     m_isQuitting = true;

@@ -58,6 +58,9 @@ public:
     /// Closes all windows without a question, since what they hold is kept elsewhere, and emits
     /// quitReady() after the last.
     void quitKept();
+    /// While a live run or a recording of actions goes on in a window, ends it and returns true;
+    /// `again` is then called, queued, when it has ended.
+    bool endInputThen(const std::function<void()> &again);
     /// Ends quit() because of a window that has to ask again; true when it was under way. Without
     /// another quit() the program goes on, whichever windows close.
     bool interruptQuit() { return std::exchange(m_isQuitting, false); }

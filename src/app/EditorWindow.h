@@ -58,6 +58,9 @@ public:
     void keepOpen() { m_mayClose = false; }
     /// Lets it close without a question: what it holds is kept elsewhere.
     void letGo() { m_mayClose = true; }
+    /// While a live run or a recording of actions goes on, ends it and returns true; `again` is
+    /// then called, queued, when it has ended.
+    bool endInputThen(const std::function<void()> &again);
 
 public Q_SLOTS:
     void newDemo();
@@ -81,7 +84,6 @@ protected:
 private:
     void watchProject();
     void askAboutCanvas(QSizeF screen, const RecordActionsController::Chosen &chosen);
-    bool endInputThen(const std::function<void()> &again);
     void updateTitle();
     void saveAsThen(const Done &done);
     void saveTo(DocumentFile file, const Done &done);

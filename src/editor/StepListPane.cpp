@@ -104,19 +104,30 @@ void StepListPane::connectView()
 
 void StepListPane::showContextMenu(QPoint position)
 {
-    QMenu menu(m_view);
+    // On its own, not in a loop of its own: the window can go away while it is open.
+    auto *menu = new QMenu(m_view);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     const QModelIndex index = m_view->indexAt(position);
-    if (index.isValid()) {
-        const StepRow row = m_model.row(index.row());
-        const QUuid id = row.step.id;
-        QAction *run = menu.addAction(Icons::icon(QStringLiteral("play.circle")),
-                                      tr("Run Live from Here"), [this, id] { m_live.runLive(id); });
-        run->setEnabled(m_live.canRunLive());
-        if (row.step.kind == StepKind::section)
-            menu.addAction(row.step.collapsed ? tr("Expand section") : tr("Collapse section"),
-                           [this, id] { StepList::toggleCollapse(m_project, id); });
-        menu.addSeparator();
-    }
+    if (index.isValid())
+        addRowActions(*menu, m_model.row(index.row()).step);
+    addListActions(*menu);
+    menu->popup(m_view->viewport()->mapToGlobal(position));
+}
+
+void StepListPane::addRowActions(QMenu &menu, const Step &step)
+{
+    const QUuid id = step.id;
+    QAction *run = menu.addAction(Icons::icon(QStringLiteral("play.circle")),
+                                  tr("Run Live from Here"), [this, id] { m_live.runLive(id); });
+    run->setEnabled(m_live.canRunLive());
+    if (step.kind == StepKind::section)
+        menu.addAction(step.collapsed ? tr("Expand section") : tr("Collapse section"),
+                       [this, id] { StepList::toggleCollapse(m_project, id); });
+    menu.addSeparator();
+}
+
+void StepListPane::addListActions(QMenu &menu)
+{
     const auto add = [&menu](const QString &text, bool enabled, const QKeySequence &keys,
                              auto action) {
         QAction *added = menu.addAction(text, action);
@@ -134,7 +145,6 @@ void StepListPane::showContextMenu(QPoint position)
     menu.addSeparator();
     add(tr("Delete"), m_selection.canDelete(), QKeySequence::Delete,
         [this] { m_selection.deleteSelected(); });
-    menu.exec(m_view->viewport()->mapToGlobal(position));
 }
 
 void StepListPane::updateCapabilities()

@@ -30,6 +30,8 @@ private:
     QWidget *makeHeader();
     void connectView();
     void showContextMenu(QPoint position);
+    void addRowActions(QMenu &menu, const Step &step);
+    void addListActions(QMenu &menu);
     void updateCapabilities();
 
     Project &m_project;
