@@ -39,6 +39,11 @@
         <translation>Keine Programme gefunden</translation>
     </message>
     <message>
+        <source>Unsaved changes could not be kept: %1.</source>
+        <extracomment>Autosave</extracomment>
+        <translation>Nicht gespeicherte Änderungen konnten nicht gesichert werden: %1.</translation>
+    </message>
+    <message>
         <source>Restore</source>
         <extracomment>Autosave, RestorePanel</extracomment>
         <translation>Wiederherstellen</translation>
@@ -146,6 +151,11 @@ die als H.264-Film gerendert oder auf dem echten Bildschirm ausgeführt wird.</t
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>Die Sprache aller Texte, z. B. de</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>EXIT STATUS
@@ -262,11 +272,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Start Y</translation>
     </message>
     <message>
-        <source>Canvas</source>
-        <extracomment>DemoSettingsForm, cli</extracomment>
-        <translation>Leinwand</translation>
-    </message>
-    <message>
         <source>W</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>B</translation>
@@ -275,6 +280,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>H</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>H</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <extracomment>DemoSettingsForm, cli</extracomment>
+        <translation>Leinwand</translation>
     </message>
     <message>
         <source>Canvas width</source>
@@ -505,11 +515,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Saved %1.</source>
         <extracomment>EditorWindow</extracomment>
         <translation>%1 gespeichert.</translation>
-    </message>
-    <message>
-        <source>Could not save: %1</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Speichern fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
@@ -1877,19 +1882,9 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>keine solche Datei</translation>
     </message>
     <message>
-        <source>cannot be opened: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>kann nicht geöffnet werden: %1</translation>
-    </message>
-    <message>
         <source>too large, %1 bytes</source>
         <extracomment>velvane</extracomment>
         <translation>zu groß, %1 Bytes</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2245,11 +2240,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>Unterbefehle</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Optionen</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

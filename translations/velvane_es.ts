@@ -39,6 +39,11 @@
         <translation>No se encontraron aplicaciones</translation>
     </message>
     <message>
+        <source>Unsaved changes could not be kept: %1.</source>
+        <extracomment>Autosave</extracomment>
+        <translation>No se pudieron conservar los cambios sin guardar: %1.</translation>
+    </message>
+    <message>
         <source>Restore</source>
         <extracomment>Autosave, RestorePanel</extracomment>
         <translation>Restaurar</translation>
@@ -146,6 +151,11 @@ convierte en una película H.264 o se ejecuta en el escritorio real.</translatio
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>El idioma de todos los textos, p. ej., de</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>EXIT STATUS
@@ -262,11 +272,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Inicio Y</translation>
     </message>
     <message>
-        <source>Canvas</source>
-        <extracomment>DemoSettingsForm, cli</extracomment>
-        <translation>Lienzo</translation>
-    </message>
-    <message>
         <source>W</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>An</translation>
@@ -275,6 +280,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>H</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Al</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <extracomment>DemoSettingsForm, cli</extracomment>
+        <translation>Lienzo</translation>
     </message>
     <message>
         <source>Canvas width</source>
@@ -505,11 +515,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Saved %1.</source>
         <extracomment>EditorWindow</extracomment>
         <translation>%1 guardado.</translation>
-    </message>
-    <message>
-        <source>Could not save: %1</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>No se pudo guardar: %1</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
@@ -1877,19 +1882,9 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>no existe el archivo</translation>
     </message>
     <message>
-        <source>cannot be opened: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>no se puede abrir: %1</translation>
-    </message>
-    <message>
         <source>too large, %1 bytes</source>
         <extracomment>velvane</extracomment>
         <translation>demasiado grande, %1 bytes</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>no se puede leer: %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2245,11 +2240,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>Subcomandos</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Opciones</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

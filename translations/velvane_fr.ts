@@ -39,6 +39,11 @@
         <translation>Aucune application trouvée</translation>
     </message>
     <message>
+        <source>Unsaved changes could not be kept: %1.</source>
+        <extracomment>Autosave</extracomment>
+        <translation>Les modifications non enregistrées n’ont pas pu être conservées : %1.</translation>
+    </message>
+    <message>
         <source>Restore</source>
         <extracomment>Autosave, RestorePanel</extracomment>
         <translation>Restaurer</translation>
@@ -146,6 +151,11 @@ film H.264 ou exécutée sur le vrai bureau.</translation>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>La langue de tous les textes, p. ex. de</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Options</translation>
     </message>
     <message>
         <source>EXIT STATUS
@@ -262,11 +272,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Départ Y</translation>
     </message>
     <message>
-        <source>Canvas</source>
-        <extracomment>DemoSettingsForm, cli</extracomment>
-        <translation>Canevas</translation>
-    </message>
-    <message>
         <source>W</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>L</translation>
@@ -275,6 +280,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>H</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>H</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <extracomment>DemoSettingsForm, cli</extracomment>
+        <translation>Canevas</translation>
     </message>
     <message>
         <source>Canvas width</source>
@@ -505,11 +515,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Saved %1.</source>
         <extracomment>EditorWindow</extracomment>
         <translation>%1 enregistré.</translation>
-    </message>
-    <message>
-        <source>Could not save: %1</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>Échec de l’enregistrement : %1</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
@@ -1877,19 +1882,9 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>fichier inexistant</translation>
     </message>
     <message>
-        <source>cannot be opened: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>ne peut pas être ouvert : %1</translation>
-    </message>
-    <message>
         <source>too large, %1 bytes</source>
         <extracomment>velvane</extracomment>
         <translation>trop grand, %1 octets</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>ne peut pas être lu : %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2245,11 +2240,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>Sous-commandes</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Options</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

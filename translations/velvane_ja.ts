@@ -39,6 +39,11 @@
         <translation>アプリが見つかりません</translation>
     </message>
     <message>
+        <source>Unsaved changes could not be kept: %1.</source>
+        <extracomment>Autosave</extracomment>
+        <translation>保存していない変更を保管できませんでした：%1。</translation>
+    </message>
+    <message>
         <source>Restore</source>
         <extracomment>Autosave, RestorePanel</extracomment>
         <translation>復元</translation>
@@ -146,6 +151,11 @@ H.264 movie or performed on the real desktop.</source>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>すべてのテキストの言語(例: de)</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>オプション</translation>
     </message>
     <message>
         <source>EXIT STATUS
@@ -262,11 +272,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>開始Y</translation>
     </message>
     <message>
-        <source>Canvas</source>
-        <extracomment>DemoSettingsForm, cli</extracomment>
-        <translation>キャンバス</translation>
-    </message>
-    <message>
         <source>W</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>幅</translation>
@@ -275,6 +280,11 @@ Results go to standard output, messages and progress to standard error.
         <source>H</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>高</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <extracomment>DemoSettingsForm, cli</extracomment>
+        <translation>キャンバス</translation>
     </message>
     <message>
         <source>Canvas width</source>
@@ -505,11 +515,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Saved %1.</source>
         <extracomment>EditorWindow</extracomment>
         <translation>%1を保存しました。</translation>
-    </message>
-    <message>
-        <source>Could not save: %1</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>保存できませんでした: %1</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
@@ -1877,19 +1882,9 @@ Results go to standard output, messages and progress to standard error.
         <translation>ファイルがありません</translation>
     </message>
     <message>
-        <source>cannot be opened: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>開けません: %1</translation>
-    </message>
-    <message>
         <source>too large, %1 bytes</source>
         <extracomment>velvane</extracomment>
         <translation>大きすぎます(%1バイト)</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>読み込めません: %1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2245,11 +2240,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>サブコマンド</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>オプション</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

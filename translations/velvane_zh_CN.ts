@@ -39,6 +39,11 @@
         <translation>未找到应用</translation>
     </message>
     <message>
+        <source>Unsaved changes could not be kept: %1.</source>
+        <extracomment>Autosave</extracomment>
+        <translation>无法保留未保存的更改：%1。</translation>
+    </message>
+    <message>
         <source>Restore</source>
         <extracomment>Autosave, RestorePanel</extracomment>
         <translation>恢复</translation>
@@ -145,6 +150,11 @@ H.264 movie or performed on the real desktop.</source>
         <source>The language of all texts, e.g. de</source>
         <extracomment>CommandLine</extracomment>
         <translation>所有文本的语言，例如 de</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>选项</translation>
     </message>
     <message>
         <source>EXIT STATUS
@@ -261,11 +271,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>起点 Y</translation>
     </message>
     <message>
-        <source>Canvas</source>
-        <extracomment>DemoSettingsForm, cli</extracomment>
-        <translation>画布</translation>
-    </message>
-    <message>
         <source>W</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>宽</translation>
@@ -274,6 +279,11 @@ Results go to standard output, messages and progress to standard error.
         <source>H</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>高</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <extracomment>DemoSettingsForm, cli</extracomment>
+        <translation>画布</translation>
     </message>
     <message>
         <source>Canvas width</source>
@@ -504,11 +514,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Saved %1.</source>
         <extracomment>EditorWindow</extracomment>
         <translation>已保存 %1。</translation>
-    </message>
-    <message>
-        <source>Could not save: %1</source>
-        <extracomment>EditorWindow</extracomment>
-        <translation>无法保存：%1</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
@@ -1876,19 +1881,9 @@ Results go to standard output, messages and progress to standard error.
         <translation>没有此文件</translation>
     </message>
     <message>
-        <source>cannot be opened: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>无法打开：%1</translation>
-    </message>
-    <message>
         <source>too large, %1 bytes</source>
         <extracomment>velvane</extracomment>
         <translation>过大，%1 字节</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <extracomment>velvane</extracomment>
-        <translation>无法读取：%1</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2244,11 +2239,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>子命令</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>选项</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

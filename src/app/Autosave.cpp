@@ -38,6 +38,8 @@ void Autosave::follow()
         // Only its address is left of the window then.
         connect(window, &QObject::destroyed, this, [this, window] {
             auto kept = m_kept.extract(window);
+            if (!m_documents.isQuitting())
+                goOn();
             if (!m_hasEnded)
                 forget(kept.mapped());
         });
@@ -46,6 +48,8 @@ void Autosave::follow()
 
 void Autosave::onDocumentChanged(EditorWindow *window)
 {
+    if (!m_documents.isQuitting())
+        goOn();
     if (!m_hasEnded && !window->isModified())
         forget(m_kept[window]);
 }
@@ -112,11 +116,13 @@ QCoro::Task<> Autosave::keep(EditorWindow *window)
     co_await inBackground(write);
     if (!alive)
         co_return;
-    if (failure)
-        qWarning("%s is not kept: %s", qPrintable(record.title), qPrintable(*failure));
-    // The next tick tries again.
-    if (failure && open && m_kept[open].id == id && m_kept[open].turn == turn)
-        m_kept[open].state.reset();
+    if (failure && open) {
+        open->content().statusLine().setMessage(
+            tr("Unsaved changes could not be kept: %1.").arg(*failure));
+        // The next tick tries again.
+        if (m_kept[open].id == id && m_kept[open].turn == turn)
+            m_kept[open].state.reset();
+    }
     if (--m_writing == 0)
         Q_EMIT atRest();
 }

@@ -198,8 +198,10 @@ TEST_F(AutosaveTest, WhatCannotBeKeptSaysSo)
 TEST_F(AutosaveTest, WhatCouldNotBeKeptIsTriedAgain)
 {
     QFile(root()).open(QIODevice::WriteOnly);
-    edit(documents.newDemo());
+    EditorWindow *window = documents.newDemo();
+    edit(window);
     tick();
+    EXPECT_TRUE(status(window).startsWith("Unsaved changes could not be kept: "));
     QFile::remove(root());
     tick();
     EXPECT_EQ(kept().size(), 1);
@@ -270,6 +272,21 @@ TEST_F(AutosaveTest, ADemoWithoutChangesComesBackFromItsFile)
     ASSERT_EQ(documents.windows().size(), 1);
     EXPECT_FALSE(documents.windows()[0]->isModified());
     EXPECT_TRUE(kept().isEmpty());
+}
+
+TEST_F(AutosaveTest, AnEndThatDoesNotComeLeavesNothingBehindOnceAllIsSaved)
+{
+    EditorWindow *saved = documents.open(demo("a.velvane"), nullptr);
+    EditorWindow *closed = documents.open(demo("b.velvane"), nullptr);
+    edit(saved);
+    edit(closed);
+    autosave->keepAll();
+    closed->close();
+    answer(closed, "Don't Save");
+    EXPECT_EQ(kept().size(), 1);
+    saved->save();
+    EXPECT_EQ(kept().size(), 0);
+    EXPECT_FALSE(autosave->hasEnded());
 }
 
 } // namespace velvane

@@ -181,6 +181,16 @@ bool Documents::endInputThen(const std::function<void()> &again)
                        [&](EditorWindow *window) { return window->endInputThen(again); });
 }
 
+bool Documents::interruptQuit()
+{
+    if (!std::exchange(m_isQuitting, false))
+        return false;
+    // Those that wait for the end of an export were let go for this quit only.
+    for (EditorWindow *window : qAsConst(m_windows))
+        window->keepOpen();
+    return true;
+}
+
 void Documents::closeAll()
 {
     m_isQuitting = true;

@@ -37,6 +37,8 @@ public:
 
     /// Brings the window that was used last to the front, if there is one.
     void bringUpLast();
+    /// Brings a window to the front, as large as it was when it was minimized; returns it.
+    static EditorWindow *bringUp(EditorWindow *window);
     /// Opens a window on a new demo.
     EditorWindow *newDemo();
     /// Opens a window on a demo that was read from this file, or raises the one that has it
@@ -63,7 +65,9 @@ public:
     bool endInputThen(const std::function<void()> &again);
     /// Ends quit() because of a window that has to ask again; true when it was under way. Without
     /// another quit() the program goes on, whichever windows close.
-    bool interruptQuit() { return std::exchange(m_isQuitting, false); }
+    bool interruptQuit();
+    /// Are the windows on their way out?
+    bool isQuitting() const { return m_isQuitting; }
 
     /// Keeps the window's place and pane widths for the next one.
     void remember(const EditorWindow &window);
@@ -77,7 +81,6 @@ Q_SIGNALS:
     void quitReady();
 
 private:
-    static EditorWindow *bringUp(EditorWindow *window);
     void forget(QObject *window);
     void closeAll();
     int freeUntitledNumber() const;

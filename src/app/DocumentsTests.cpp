@@ -1,4 +1,5 @@
 #include "app/DocumentsFixture.h"
+#include "app/Question.h"
 #include "support/Until.h"
 
 namespace velvane {
@@ -283,6 +284,43 @@ TEST_F(DocumentsTest, OpenedAndSavedDemosAreRecent)
     ASSERT_EQ(recents.size(), 2);
     EXPECT_EQ(recents[0].path, file("b.velvane"));
     EXPECT_EQ(recents[1].path, file("a.velvane"));
+}
+
+TEST_F(DocumentsTest, OfSeveralFilesThatAreNoDemosEachIsRefused)
+{
+    EditorWindow *window = documents.newDemo();
+    documents.open({file("one.velvane"), file("two.velvane"), file("two.velvane")}, window);
+    EXPECT_EQ(questionText(window), "“one.velvane” cannot be opened: no such file.");
+    answer(window, "OK");
+    EXPECT_EQ(questionText(window), "“two.velvane” cannot be opened: no such file.");
+    answer(window, "OK");
+    EXPECT_FALSE(question(window));
+}
+
+TEST_F(DocumentsTest, QuittingGoesOnAfterTheQuestionThatIsOpenAlready)
+{
+    const auto windows = modified(2);
+    ask(windows[1], Question::message("Something happened."));
+    documents.quit();
+    answer(windows[0], "Don't Save");
+    EXPECT_EQ(questionText(windows[1]), "Something happened.");
+    answer(windows[1], "OK");
+    EXPECT_EQ(questionText(windows[1]), "Do you want to save the changes to “1”?");
+    answer(windows[1], "Cancel");
+    EXPECT_FALSE(windows[0]->mayClose());
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(DocumentsTest, TheSameQuestionIsNotAskedTwice)
+{
+    const auto windows = modified(2);
+    windows[1]->close();
+    documents.quit();
+    answer(windows[0], "Don't Save");
+    EXPECT_FALSE(windows[0]->mayClose()) << "quitting has ended where it was asked already";
+    answer(windows[1], "Save");
+    EXPECT_EQ(documents.windows(), QList<EditorWindow *>{windows[0]});
+    EXPECT_EQ(quits, 0);
 }
 
 } // namespace velvane

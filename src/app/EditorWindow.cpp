@@ -168,7 +168,8 @@ void EditorWindow::saveTo(DocumentFile file, const Done &done)
 
 void EditorWindow::tellFailure(const QString &path, const QString &refusal, const Done &done)
 {
-    m_content->statusLine().setMessage(tr("Could not save: %1").arg(refusal));
+    m_content->statusLine().setMessage(
+        tr("“%1” could not be saved.").arg(QFileInfo(path).fileName()));
     const Question question{
         tr("“%1” could not be saved.").arg(QFileInfo(path).fileName()),
         tr("It %1. The demo is still open here with all your changes.").arg(refusal),

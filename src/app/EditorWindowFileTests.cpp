@@ -45,7 +45,7 @@ TEST_F(EditorWindowFileTest, AFullDiskLeavesTheFileAndTheDemoAsTheyAre)
     EXPECT_EQ(bytesOf(file("a.velvane")), before);
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_EQ(questionText(window), "“a.velvane” could not be saved.");
-    EXPECT_TRUE(status(window).startsWith("Could not save: cannot be written: "));
+    EXPECT_EQ(status(window), "“a.velvane” could not be saved.");
     answer(window, "Cancel");
 
     window->save();
@@ -227,6 +227,18 @@ TEST_F(EditorWindowFileTest, TwoProcessesOnOneFileDoNotReplaceEachOthersWork)
     window->save();
     EXPECT_TRUE(question(window));
     EXPECT_EQ(stepsIn(file("a.velvane")), 3);
+}
+
+TEST_F(EditorWindowFileTest, AFileThatMayNotBeReadIsRefusedWithTheReason)
+{
+    const QString path = demo("theirs.velvane");
+    QFile::setPermissions(path, {});
+    ASSERT_EQ(chmod(qPrintable(folder.path()), 0555), 0);
+    {
+        const AsNobody nobody;
+        EXPECT_FALSE(documents.open(path, window));
+    }
+    EXPECT_EQ(questionText(window), "“theirs.velvane” cannot be opened: Permission denied.");
 }
 
 } // namespace velvane

@@ -44,6 +44,7 @@ void addRecent(QMenu &menu, EditorWindow &window)
 {
     auto *recent = new SymbolMenu(tr("Open Recent"), &menu);
     menu.addMenu(recent);
+    recent->setToolTipsVisible(true);
     const auto follow = [recent, &window] {
         recent->menuAction()->setEnabled(!window.documents().recents().demos().isEmpty());
     };

@@ -172,4 +172,21 @@ TEST_F(MenuBarTest, AboutNamesTheVersion)
     EXPECT_EQ(shown(), QStringLiteral("Velvane %1").arg(QLatin1String(VELVANE_VERSION)));
 }
 
+TEST_F(MenuBarTest, TheWindowMenuBringsUpAWindowAsLargeAsItWas)
+{
+    EditorWindow *other = documents.newDemo();
+    other->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    WindowCommands::fill(menu("Window"), *window);
+    item("Window", "Untitled 2").trigger();
+    EXPECT_EQ(other->windowState() & (Qt::WindowMaximized | Qt::WindowMinimized),
+              Qt::WindowMaximized);
+}
+
+TEST_F(MenuBarTest, RecentDemosTellTheirWholePath)
+{
+    auto *recent = menu("File").findChild<QMenu *>();
+    ASSERT_TRUE(recent);
+    EXPECT_TRUE(recent->toolTipsVisible());
+}
+
 } // namespace velvane

@@ -6,8 +6,12 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+
+#include <algorithm>
+#include <deque>
 
 namespace velvane {
 
@@ -65,6 +69,63 @@ QMessageBox *openBox(const QWidget *over)
     return nullptr;
 }
 
+struct Asked {
+    Question question;
+    std::function<void(int)> answered;
+};
+
+/// The questions of one window that wait for the open one, first come first.
+class Waiting : public QObject {
+public:
+    static Waiting &of(QWidget &over)
+    {
+        for (QObject *child : over.children())
+            if (auto *found = dynamic_cast<Waiting *>(child))
+                return *found;
+        return *new Waiting(over);
+    }
+
+    bool has(const Question &question) const
+    {
+        return std::ranges::any_of(
+            m_asked, [&](const Asked &asked) { return asked.question.text == question.text; });
+    }
+    void add(Asked asked) { m_asked.push_back(std::move(asked)); }
+    /// Asks the next one, unless an answer has led to another.
+    void goOn()
+    {
+        if (m_asked.empty() || openBox(&m_over))
+            return;
+        const Asked next = std::move(m_asked.front());
+        m_asked.pop_front();
+        ask(&m_over, next.question, next.answered);
+    }
+
+private:
+    explicit Waiting(QWidget &over) : QObject(&over), m_over(over) {}
+
+    QWidget &m_over;
+    std::deque<Asked> m_asked;
+};
+
+int lastOf(const Question &question)
+{
+    return int(question.answers.size()) - 1;
+}
+
+// While a box is open: brings it to the front, and has the question wait unless it is there
+// already.
+void askLater(QMessageBox &open, QWidget &over, const Asked &asked)
+{
+    open.raise();
+    open.activateWindow();
+    Waiting &waiting = Waiting::of(over);
+    if (open.text() != asked.question.text && !waiting.has(asked.question))
+        return waiting.add(asked);
+    if (asked.answered)
+        asked.answered(lastOf(asked.question));
+}
+
 } // namespace
 
 Question Question::message(const QString &text, const QString &detail)
@@ -74,11 +135,8 @@ Question Question::message(const QString &text, const QString &detail)
 
 void ask(QWidget *over, const Question &question, const std::function<void(int)> &answered)
 {
-    if (QMessageBox *open = openBox(over)) {
-        open->raise();
-        open->activateWindow();
-        return;
-    }
+    if (QMessageBox *open = openBox(over))
+        return askLater(*open, *over, {question, answered});
     auto *box = new QMessageBox(over);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowTitle(QCoreApplication::translate("Question", "Velvane"));
@@ -87,11 +145,14 @@ void ask(QWidget *over, const Question &question, const std::function<void(int)>
     box->setInformativeText(question.detail);
     layOut(*box);
     addAnswers(*box, question.answers);
-    if (answered)
-        QObject::connect(box, &QDialog::finished, box, [=, last = question.answers.size() - 1] {
-            const QAbstractButton *clicked = box->clickedButton();
-            answered(clicked ? clicked->property("answer").toInt() : int(last));
-        });
+    const QPointer<QWidget> window(over);
+    QObject::connect(box, &QDialog::finished, box, [=, last = lastOf(question)] {
+        const QAbstractButton *clicked = box->clickedButton();
+        if (answered)
+            answered(clicked ? clicked->property("answer").toInt() : last);
+        if (window)
+            Waiting::of(*window).goOn();
+    });
     box->open();
 }
 

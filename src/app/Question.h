@@ -22,8 +22,9 @@ struct Question {
 };
 
 /// Asks over a window, or on its own when that is null, without blocking; `answered` hears the
-/// index of the answer. While a box is open over the window it comes to the front and the new
-/// question is dropped.
+/// index of the answer, or nothing when the window goes away. While a box is open over the window
+/// that one comes to the front, and the question waits for it; the same question is not asked twice
+/// but counts as answered by its last answer.
 void ask(QWidget *over, const Question &question, const std::function<void(int)> &answered = {});
 
 } // namespace velvane

@@ -10,14 +10,6 @@ namespace velvane::WindowCommands {
 
 namespace {
 
-void raise(EditorWindow &window)
-{
-    if (window.isMinimized())
-        window.showNormal();
-    window.raise();
-    window.activateWindow();
-}
-
 void addWindows(QMenu &menu, EditorWindow &current)
 {
     for (EditorWindow *window : current.documents().windows()) {
@@ -25,7 +17,8 @@ void addWindows(QMenu &menu, EditorWindow &current)
             menu.addAction(window->name().replace(QLatin1Char('&'), QStringLiteral("&&")));
         action->setCheckable(true);
         action->setChecked(window == &current);
-        QObject::connect(action, &QAction::triggered, window, [window] { raise(*window); });
+        QObject::connect(action, &QAction::triggered, window,
+                         [window] { Documents::bringUp(window); });
     }
 }
 

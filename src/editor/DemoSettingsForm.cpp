@@ -9,6 +9,7 @@
 #include "editor/Theme.h"
 
 #include <QFileDialog>
+#include <QFontMetrics>
 #include <QImageReader>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -80,9 +81,14 @@ FormRow *DemoSettingsForm::addRow(const QString &label)
 void DemoSettingsForm::addNumbers(FormRow &row, const QStringList &texts, const QStringList &names,
                                   const QList<Field::Kind> &fields)
 {
+    // The fields of all rows stand below each other, however wide their letters are.
+    const QFontMetrics metrics(Theme::font(TextSize::secondary));
+    int width = 0;
+    for (const QString &text : {tr("W"), tr("H"), tr("X"), tr("Y")})
+        width = std::max(width, metrics.size(Qt::TextShowMnemonic, text).width());
     for (int i = 0; i < fields.size(); ++i) {
         if (!texts.at(i).isEmpty())
-            row.addText(texts.at(i));
+            row.addText(texts.at(i), width);
         auto *field =
             new NumberField(NumberField::Kind::coordinate, names.at(i), names.at(i), this);
         m_binding.add(*field, [kind = fields.at(i)] { return Field{kind}; });

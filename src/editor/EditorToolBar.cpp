@@ -111,6 +111,8 @@ void EditorToolBar::addRunOptions()
     layout()->addWidget(m_runOptions);
 
     auto *menu = new QMenu(m_runOptions);
+    // They say why an option cannot be chosen.
+    menu->setToolTipsVisible(true);
     m_runOptions->setMenu(menu);
     m_hideOthers = menu->addAction(tr("Hide other apps during run"));
     m_recordCursor = menu->addAction(tr("Show mouse cursor"));

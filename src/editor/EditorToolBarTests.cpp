@@ -154,6 +154,7 @@ TEST_F(EditorToolBarTest, WhereTheScreenCannotBeCapturedRecordingItIsNotOffered)
     EXPECT_TRUE(option("Don't record").isEnabled());
     EXPECT_FALSE(option("Record screen").isEnabled());
     EXPECT_EQ(option("Record screen").toolTip(), "No screen here.");
+    EXPECT_TRUE(runOptions().toolTipsVisible());
     EXPECT_FALSE(option("Record active window").isEnabled());
 }
 

@@ -58,11 +58,12 @@ void FormRow::add(QWidget *control, int stretch)
     m_row->addWidget(control, stretch);
 }
 
-void FormRow::addText(const QString &text)
+void FormRow::addText(const QString &text, int minimumWidth)
 {
     auto *label = new QLabel(text, this);
     label->setProperty("look", QStringLiteral("hint"));
     label->setFont(Theme::font(TextSize::secondary));
+    label->setMinimumWidth(minimumWidth);
     m_row->addWidget(label);
 }
 

@@ -15,8 +15,8 @@ public:
 
     /// Adds a control; the first one becomes the label's buddy.
     void add(QWidget *control, int stretch = 0);
-    /// Adds a small text before the next control: an axis or a unit.
-    void addText(const QString &text);
+    /// Adds a small text before the next control: an axis or a unit. The width in logical pixels.
+    void addText(const QString &text, int minimumWidth = 0);
     void addStretch() { m_row->addStretch(); }
     /// `width`: from the form's left edge to the first control.
     void setLabelColumn(int width);

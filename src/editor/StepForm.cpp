@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace velvane {
@@ -23,6 +24,21 @@ namespace velvane {
 namespace {
 
 constexpr int typedHeight = 72;
+
+// The text as a field of several lines has it: each end of a line, of whatever kind, is "\n".
+QString withPlainLines(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (const char16_t end : {u'\r', u'\u2028', u'\u2029'})
+        text.replace(QChar(end), QLatin1Char('\n'));
+    return text;
+}
+
+// toPlainText() would make plain spaces of those that do not break.
+QString textOf(const QPlainTextEdit &field)
+{
+    return withPlainLines(field.document()->toRawText());
+}
 
 } // namespace
 
@@ -130,7 +146,7 @@ void StepForm::addText()
     m_typed->add(m_typedText, 1);
     connect(m_typedText, &QPlainTextEdit::textChanged, this, [this] {
         if (m_typedText->hasFocus())
-            m_editing.setText(m_typedText->toPlainText());
+            m_editing.setText(textOf(*m_typedText));
     });
 
     m_title = addRow(tr("Title"));
@@ -255,8 +271,10 @@ void StepForm::update()
 void StepForm::showText(const QString &text)
 {
     // Setting an equal text would move the cursor of one who types it.
-    if (m_typedText->toPlainText() != text)
+    if (textOf(*m_typedText) != withPlainLines(text)) {
+        const QSignalBlocker isNotTyped(m_typedText);
         m_typedText->setPlainText(text);
+    }
     if (m_titleText->text() != text)
         m_titleText->setText(text);
 }

@@ -4,6 +4,7 @@
 #include "editor/InspectorPane.h"
 #include "editor/NumberField.h"
 #include "editor/StepForm.h"
+#include "model/StepList.h"
 #include "support/EditorFixture.h"
 
 #include <QCheckBox>
@@ -285,6 +286,30 @@ TEST_F(StepFormTest, TheBackdropCanBeRemovedOnlyWhileThereIsOne)
     remove.click();
     EXPECT_TRUE(project.background().isNull());
     EXPECT_EQ(undo.undoText(), "Remove Backdrop");
+}
+
+TEST_F(StepFormTest, ATextThatChangesElsewhereWhileItsFieldHasTheFocusIsNotTyped)
+{
+    openWith(StepKind::type);
+    QList<Step> steps = project.steps();
+    steps[0].text = QStringLiteral("a\u00a0b\r\nc");
+    project.setSteps(steps);
+    auto &text = named<QPlainTextEdit>("Text");
+    text.setFocus();
+    steps << stepOf(StepKind::wait);
+    project.edit("Add Step", [&] { project.setSteps(steps); });
+    EXPECT_EQ(project.steps()[0].text, steps[0].text);
+    StepList::addStep(project, StepKind::wait);
+    project.setSelection(steps[0].id);
+    EXPECT_EQ(project.steps()[0].text, steps[0].text);
+
+    text.setFocus();
+    text.moveCursor(QTextCursor::End);
+    Widgets::press(text, 0, {}, "x");
+    EXPECT_EQ(project.steps()[0].text, QStringLiteral("a\u00a0b\ncx")) << "typed for real";
+    view->fieldEditing().undo();
+    EXPECT_EQ(project.steps()[0].text, steps[0].text);
+    EXPECT_TRUE(undo.canRedo());
 }
 
 } // namespace velvane

@@ -59,7 +59,7 @@ QByteArray bytesOf(const QString &path)
         throw DocumentError(*found);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DocumentError(tr("cannot be opened: %1").arg(file.errorString()));
+        throw DocumentError(file.errorString());
     if (file.size() > maxFileSize)
         throw DocumentError(tr("too large, %1 bytes").arg(file.size()));
     constexpr qint64 aFew = 16;
@@ -67,7 +67,7 @@ QByteArray bytesOf(const QString &path)
         throw DocumentError(tr("not a property list"));
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        throw DocumentError(tr("cannot be read: %1").arg(file.errorString()));
+        throw DocumentError(file.errorString());
     return bytes;
 }
 
