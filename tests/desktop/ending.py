@@ -1,7 +1,9 @@
 #!/usr/bin/python3
 """Told to end by the system the program does so at once and well, whatever is going on."""
 
+import plistlib
 import signal
+import subprocess
 
 from accessible import wait_for
 from driver import xdotool
@@ -13,6 +15,12 @@ def shows(editor, text):
     editor.wait(lambda: any(text in node.name for node in editor.root.walk(True)), text)
 
 
+def shown(title):
+    """Is a window of this title on the screen?"""
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                          stdout=subprocess.DEVNULL, check=False).returncode == 0
+
+
 class Ending(EditorTest):
     def ends(self, begin, *steps, **environment):
         """Tells an editor to end in the midst of what `begin` has begun in it."""
@@ -22,6 +30,7 @@ class Ending(EditorTest):
         editor.process.send_signal(signal.SIGTERM)
         wait_for(lambda: not editor.is_running, "the program to end")
         self.assertEqual(editor.process.returncode, 0)
+        return editor
 
     def test_with_the_context_menu_open(self):
         def begin(editor):
@@ -113,8 +122,13 @@ class Ending(EditorTest):
     def test_while_actions_are_recorded(self):
         def begin(editor):
             editor.click(editor.find("push button", "Record"))
-            shows(editor, "Recording")
-        self.ends(begin)
+            editor.answer("Keep Canvas")
+            wait_for(lambda: shown("● Recording — Esc to stop"), "the panel of the recording")
+            xdotool("mousemove", 30, 30, "click", 1)
+        editor = self.ends(begin)
+        kept = next((editor.home / ".local/state/velvane").rglob("*.kept"))
+        kinds = [s["kind"] for s in plistlib.loads(kept.read_bytes())["demo"]["steps"]]
+        self.assertEqual(kinds[-2:], ["move", "click"])
 
     def test_while_a_shortcut_is_recorded(self):
         def begin(editor):
