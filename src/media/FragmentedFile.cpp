@@ -1,5 +1,6 @@
 #include "media/FragmentedFile.h"
 
+#include <QByteArray>
 #include <QtEndian>
 
 #include <cstring>
