@@ -19,9 +19,11 @@ Frame PictureFit::fitted(const Frame &frame)
                        && std::max(beyond.width(), beyond.height()) <= 1;
     if (!isCut)
         return scaled(whole);
-    // Its own pixels, seen through a smaller window.
+    // Its own pixels, seen through a smaller window, and held for as long.
+    const auto letGo = [](void *held) { delete static_cast<QImage *>(held); };
     const QImage part(frame.image.constBits(), m_size.width(), m_size.height(),
-                      frame.image.bytesPerLine(), frame.image.format());
+                      frame.image.bytesPerLine(), frame.image.format(), letGo,
+                      new QImage(frame.image));
     return {part, whole.changed & part.rect(), frame.time};
 }
 

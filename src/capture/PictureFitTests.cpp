@@ -45,6 +45,18 @@ TEST(PictureFit, AnOddPictureLosesItsLastColumnAndRow)
     EXPECT_EQ(fitted.changed, QRegion(38, 0, 2, 30));
 }
 
+TEST(PictureFit, WhatIsPaintedLaterIsNotInACutPictureThatWaits)
+{
+    QImage image(161, 101, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    PictureFit fit({160, 100});
+    const Frame fitted = fit.fitted({image, image.rect(), 1s});
+    image.fill(Qt::blue);
+    EXPECT_EQ(fitted.image.pixelColor(10, 10), QColor(Qt::red));
+    image = {};
+    EXPECT_EQ(fitted.image.pixelColor(159, 99), QColor(Qt::red));
+}
+
 TEST(PictureFit, AnotherShapeIsShownWholeWithBlackBesideIt)
 {
     PictureFit fit({40, 30});

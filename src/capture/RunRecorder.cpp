@@ -3,6 +3,7 @@
 #include "base/Background.h"
 #include "capture/Bookmark.h"
 #include "capture/ScreenMovie.h"
+#include "media/QueuedWriter.h"
 #include "media/RecordingWriter.h"
 
 #include <QDir>
@@ -25,9 +26,10 @@ constexpr QSizeF smallWindow(120, 80);
 
 RunRecorder::Making usual()
 {
-    return {.writer = [](const QString &path,
-                         QSize size) { return std::make_unique<RecordingWriter>(path, size); },
-            .date = &QDateTime::currentDateTime};
+    const auto writer = [](const QString &path, QSize size) {
+        return std::make_unique<QueuedWriter>(std::make_unique<RecordingWriter>(path, size));
+    };
+    return {.writer = writer, .date = &QDateTime::currentDateTime};
 }
 
 // A movie's sides are even and not 0.

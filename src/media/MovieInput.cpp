@@ -1,5 +1,7 @@
 #include "media/MovieInput.h"
 
+#include "media/FragmentedFile.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -131,6 +133,7 @@ QString MovieInput::openFile(const QString &path)
         return qt_error_string(errno);
     if (!S_ISREG(about.st_mode))
         return QCoreApplication::translate("MovieInput", "Not a regular file.");
+    m_end = FragmentedFile::wholeEnd(m_file, about.st_size, m_shouldCancel);
     return {};
 }
 
@@ -274,7 +277,9 @@ int MovieInput::read(void *self, std::uint8_t *bytes, int count)
     for (;;) {
         if (input.isCancelled())
             return AVERROR_EXIT;
-        const ssize_t done = ::pread(input.m_file, bytes, size_t(count), input.m_position);
+        const std::int64_t left = std::max<std::int64_t>(input.m_end - input.m_position, 0);
+        const auto wanted = size_t(std::min<std::int64_t>(count, left));
+        const ssize_t done = ::pread(input.m_file, bytes, wanted, input.m_position);
         if (done < 0 && errno == EINTR)
             continue;
         if (done <= 0)
@@ -287,17 +292,14 @@ int MovieInput::read(void *self, std::uint8_t *bytes, int count)
 std::int64_t MovieInput::seekBytes(void *self, std::int64_t offset, int whence)
 {
     auto &input = *static_cast<MovieInput *>(self);
-    struct stat about {};
-    if (::fstat(input.m_file, &about) != 0)
-        return AVERROR(errno);
     switch (whence & ~AVSEEK_FORCE) {
     case AVSEEK_SIZE:
-        return about.st_size;
+        return input.m_end;
     case SEEK_CUR:
         offset += input.m_position;
         break;
     case SEEK_END:
-        offset += about.st_size;
+        offset += input.m_end;
         break;
     default:
         break;

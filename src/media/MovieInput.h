@@ -18,7 +18,8 @@ namespace velvane {
 /// The packets of a movie file's first picture track, in the order they are decoded.
 ///
 /// Only a local, regular file in an MPEG-4, QuickTime, Matroska or WebM container is read, and
-/// nothing that such a file may refer to. Blocking; one thread at a time.
+/// nothing that such a file may refer to. A recording that was broken off reaches to the end of its
+/// last whole fragment. Blocking; one thread at a time.
 class MovieInput {
 public:
     /// Null, and the reason in `error`, when there is no such movie or the check said so.
@@ -61,6 +62,7 @@ private:
     static std::int64_t seekBytes(void *self, std::int64_t offset, int whence);
 
     int m_file = -1;
+    std::int64_t m_end = 0; ///< no more is read, whatever the file may become meanwhile
     std::int64_t m_position = 0;
     /// While the file is opened; afterwards reading is quick and never broken off.
     CancelCheck m_shouldCancel;

@@ -10,7 +10,7 @@ public:
     virtual ~MovieWriter() = default;
 
     /// Adds one frame. Its changed region must cover every pixel that differs from the frame
-    /// before; the image is not kept.
+    /// before; the image is not kept beyond the encoding.
     virtual void append(const Frame &frame) = 0;
 
     /// Completes the file. Without it the destructor closes the file with the frames done so far.

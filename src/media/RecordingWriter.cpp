@@ -122,11 +122,16 @@ void RecordingWriter::Impl::writePicture(const EncodedPicture &picture)
     m_index.add(picture, before + fragment.size() - picture.size, duration);
 }
 
-// All of it, or nothing.
+// All of it, or nothing. The head of the first box comes last: a process can be killed between two
+// pages of a long write, and then leaves a box without a type, which players pass over.
 void RecordingWriter::Impl::write(const QByteArray &bytes)
 {
+    constexpr qint64 boxHead = 8;
     const qint64 before = m_file.size();
-    m_file.write(before, reinterpret_cast<const quint8 *>(bytes.constData()), bytes.size());
+    const auto *data = reinterpret_cast<const quint8 *>(bytes.constData());
+    m_file.write(before + boxHead, data + boxHead, bytes.size() - boxHead);
+    if (!m_file.hasFailed())
+        m_file.write(before, data, boxHead);
     if (!m_file.hasFailed())
         return;
     m_file.cut(before);

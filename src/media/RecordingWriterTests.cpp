@@ -110,32 +110,6 @@ TEST_F(RecordingWriterTest, WhileItIsWrittenItPlaysUpToTheLastPicture)
     expectTimes(read(), times);
 }
 
-TEST_F(RecordingWriterTest, CutOffInAPictureItPlaysWithThoseBefore)
-{
-    RecordingWriter writer(path(), {320, 200});
-    record(writer, evenTimes(60, 0.1));
-    QFile whole(path());
-    ASSERT_TRUE(whole.open(QFile::ReadOnly));
-    const QByteArray bytes = whole.readAll();
-    writer.finish();
-    double last = 0;
-    for (const double part : {0.3, 0.5, 0.8, 0.97}) {
-        // In the middle of a picture.
-        const qsizetype place = bytes.indexOf("mdat", qsizetype(double(bytes.size()) * part)) + 9;
-        QFile cut(path());
-        ASSERT_TRUE(cut.open(QFile::WriteOnly | QFile::Truncate));
-        cut.write(bytes.left(place));
-        cut.close();
-        const double length = duration();
-        EXPECT_GT(length, last);
-        last = length;
-        const MovieOpening opening = MovieReader::open(path());
-        ASSERT_TRUE(opening.reader);
-        EXPECT_TRUE(opening.reader->picture(Seconds(length - 0.3)));
-    }
-    EXPECT_GE(last, 5.4);
-}
-
 TEST_F(RecordingWriterTest, BetweenTheIndexAndTheLastStepItPlaysToo)
 {
     const std::vector<double> times = evenTimes(30, 0.1);

@@ -17,8 +17,10 @@ namespace velvane {
 
 namespace {
 
-// A still screen's picture comes again after this, so that whoever waits for it sees life.
-constexpr Seconds repeatAfter = 0.9s;
+// A still screen's picture comes again after this, so that whoever waits for it sees life; and
+// often enough that a recording, which reaches to its last picture, lacks no second when it is
+// killed.
+constexpr Seconds repeatAfter = 0.5s;
 constexpr double leastRate = 0.1;
 constexpr double mostRate = 1000;
 
