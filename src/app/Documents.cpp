@@ -21,6 +21,7 @@ Documents::Documents(Desktop &desktop, QSettings &settings)
     connect(&m_recents, &RecentDemos::added, this, [this](const QString &path) {
         m_desktop.shell().noteRecent(path, QStringLiteral("application/vnd.orvikel.velvane"));
     });
+    connect(&m_recents, &RecentDemos::cleared, this, [this] { m_desktop.shell().forgetRecent(); });
 }
 
 Documents::~Documents()

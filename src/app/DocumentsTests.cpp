@@ -56,6 +56,14 @@ TEST_F(DocumentsTest, TheDesktopHearsOfOpenedAndSavedDemos)
     EXPECT_EQ(desktop.log().filter(note).size(), 2);
 }
 
+TEST_F(DocumentsTest, TheDesktopForgetsRecentDemosWhenTheyAreCleared)
+{
+    documents.open(demo("a.velvane"), nullptr);
+    EXPECT_EQ(desktop.log().filter("forget recent").size(), 0);
+    documents.recents().clear();
+    EXPECT_EQ(desktop.log().filter("forget recent").size(), 1);
+}
+
 TEST_F(DocumentsTest, AFileIsOpenInOneWindowOnly)
 {
     EditorWindow *window = documents.open(demo("a.velvane"), nullptr);

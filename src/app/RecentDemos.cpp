@@ -127,6 +127,7 @@ void RecentDemos::clear()
     for (const RecentDemo &demo : demos)
         QFile::remove(pictureFile(demo.path));
     store({});
+    Q_EMIT cleared();
 }
 
 QImage RecentDemos::picture(const QString &path) const

@@ -47,6 +47,7 @@ public:
 Q_SIGNALS:
     /// A demo was opened or saved.
     void added(const QString &path);
+    void cleared();
     void changed();
 
 private:

@@ -5,12 +5,14 @@
 #include "media/EncoderInfo.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QImageReader>
 #include <QLocale>
 #include <QRawFont>
-#include <QStorageInfo>
+
+#include <filesystem>
 
 #include <langinfo.h>
 
@@ -108,6 +110,8 @@ DesktopFact sessionKind(const QString &type, const QString &desktop)
 
 DesktopFact roomForMovies(const QString &folder, qint64 bytes)
 {
+    if (bytes < 0)
+        return {tr("Recordings"), folder, {}};
     const QString state = tr("%1, %2 free").arg(folder, QLocale::c().formattedDataSize(bytes));
     if (bytes >= littleRoom)
         return {tr("Recordings"), state, {}};
@@ -121,7 +125,11 @@ DesktopFact movieFolder(const QString &folder)
     if (!place.isDir() || !place.isWritable())
         return {tr("Recordings"), tr("%1 cannot be written to").arg(folder),
                 tr("Make %1 a folder that you may write to.").arg(place.filePath())};
-    return roomForMovies(folder, QStorageInfo(place.filePath()).bytesAvailable());
+    // Asks for the folder itself: in a sandbox the list of mounts may lack the one that it is on.
+    std::error_code unknown;
+    const auto space =
+        std::filesystem::space(QFile::encodeName(place.filePath()).toStdString(), unknown);
+    return roomForMovies(folder, unknown ? -1 : qint64(space.available));
 }
 
 DesktopFact locale(const QString &name, const QByteArray &characterSet)

@@ -14,7 +14,7 @@ DesktopFact sessionKind(const QString &type, const QString &desktop);
 /// May recordings be made in this folder, which need not exist yet, and how much room is there?
 DesktopFact movieFolder(const QString &folder);
 
-/// The same for a folder that can be written to, with so many bytes free.
+/// The same for a folder that can be written to, with so many bytes free; negative: not known.
 DesktopFact roomForMovies(const QString &folder, qint64 bytes);
 
 /// Texts are read and written in this character set, an IANA name.

@@ -88,6 +88,8 @@ TEST(SessionReport, LittleRoomForRecordingsIsTold)
     EXPECT_EQ(roomForMovies("/m", qint64(5) << 30).state, "/m, 5.00 GiB free");
     EXPECT_NE(roomForMovies("/m", qint64(5) << 20).remedy, "");
     EXPECT_NE(roomForMovies("/m", 0).remedy, "");
+    EXPECT_EQ(roomForMovies("/m", -1).state, "/m");
+    EXPECT_EQ(roomForMovies("/m", -1).remedy, "");
 }
 
 TEST(SessionReport, ACharacterSetThatLosesTextsIsTold)

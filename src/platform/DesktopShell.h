@@ -30,6 +30,9 @@ public:
     /// Puts a file of this MIME type into the desktop's own list of recently used files, a little
     /// later.
     virtual void noteRecent(const QString &file, const QString &type) = 0;
+
+    /// Takes all that this program put there out of that list again, a little later.
+    virtual void forgetRecent() = 0;
 };
 
 } // namespace velvane

@@ -124,7 +124,7 @@ class LostDisplay(EditorTest):
                 environment = (process / "environ").read_bytes().split(b"\0")
                 command = (process / "cmdline").read_bytes().split(b"\0")[0].decode()
                 if (f"DISPLAY={self.server.display}".encode() in environment
-                        and command.startswith(PROGRAM)):
+                        and Path(command).name.startswith("velvane")):
                     found.append(process.name)
         return found
 

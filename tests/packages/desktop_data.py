@@ -4,6 +4,7 @@
 import configparser
 import os
 import plistlib
+import re
 import shlex
 import struct
 import subprocess
@@ -95,7 +96,10 @@ class Entries(Staged):
 class Icons(Staged):
     def test_each_size_is_there_and_has_its_size(self):
         icons = self.share / "icons" / "hicolor"
-        for kind, name in (("apps", APPLICATION), ("mimetypes", MIME_TYPE.replace("/", "-"))):
+        types = (self.share / "mime" / "packages" / f"{APPLICATION}.xml").read_text()
+        document = re.search('<icon name="(.*)"/>', types)[1]
+        self.assertTrue(document.startswith(f"{APPLICATION}-"), "or a Flatpak keeps it to itself")
+        for kind, name in (("apps", APPLICATION), ("mimetypes", document)):
             for size in (16, 22, 24, 32, 48, 64, 128, 256, 512):
                 path = icons / f"{size}x{size}" / kind / f"{name}.png"
                 self.assertEqual(struct.unpack(">II", path.read_bytes()[16:24]), (size, size))

@@ -50,6 +50,24 @@ QByteArray contents(GBookmarkFile *bookmarks)
     return bytes;
 }
 
+bool write(const QString &list, GBookmarkFile *bookmarks)
+{
+    const QByteArray bytes = contents(bookmarks);
+    return !bytes.isEmpty() && !WholeFile::write(list, bytes);
+}
+
+void removeOurs(GBookmarkFile *bookmarks, const char *uri)
+{
+    if (!g_bookmark_file_has_application(bookmarks, uri, application, nullptr))
+        return;
+    gsize users = 0;
+    g_strfreev(g_bookmark_file_get_applications(bookmarks, uri, &users, nullptr));
+    if (users > 1)
+        g_bookmark_file_remove_application(bookmarks, uri, application, nullptr);
+    else
+        g_bookmark_file_remove_item(bookmarks, uri, nullptr);
+}
+
 } // namespace
 
 QString standardList()
@@ -74,13 +92,29 @@ bool add(const QString &file, const QString &type, const QString &list)
     GDateTime *now = g_date_time_new_now_utc();
     g_bookmark_file_set_visited_date_time(bookmarks.get(), uri.constData(), now);
     g_date_time_unref(now);
-    const QByteArray bytes = contents(bookmarks.get());
-    if (bytes.isEmpty() || WholeFile::write(list, bytes))
+    if (!write(list, bookmarks.get()))
         return false;
     // Which files somebody uses is nobody else's business.
     if (isNew)
         QFile::setPermissions(list, QFile::ReadOwner | QFile::WriteOwner);
     return true;
+}
+
+bool removeOurs(const QString &list)
+{
+    if (!QFile::exists(list))
+        return true;
+    QLockFile lock(list + QStringLiteral(".lock"));
+    if (!lock.tryLock(patience))
+        return false;
+    const Bookmarks bookmarks = read(list);
+    if (!bookmarks)
+        return false;
+    const std::unique_ptr<gchar *, decltype(&g_strfreev)> uris(
+        g_bookmark_file_get_uris(bookmarks.get(), nullptr), g_strfreev);
+    for (gchar **uri = uris.get(); *uri; ++uri)
+        removeOurs(bookmarks.get(), *uri);
+    return write(list, bookmarks.get());
 }
 
 } // namespace velvane::RecentFiles

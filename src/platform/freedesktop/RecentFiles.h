@@ -15,6 +15,10 @@ QString standardList();
 /// stay. False when the list cannot be read as one or not be written; it is left alone then.
 bool add(const QString &file, const QString &type, const QString &list);
 
+/// Takes out of a list what this program has put there. A file that other programs have used too
+/// stays as theirs. False as for add().
+bool removeOurs(const QString &list);
+
 } // namespace RecentFiles
 
 } // namespace velvane

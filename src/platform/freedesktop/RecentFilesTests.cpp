@@ -112,6 +112,32 @@ TEST_F(RecentFilesTest, WhereNothingCanBeWrittenNothingHappens)
     EXPECT_FALSE(RecentFiles::add("/a.velvane", type, "/proc/none/recently-used.xbel"));
 }
 
+TEST_F(RecentFilesTest, RemovingOursLeavesWhatOthersHaveUsed)
+{
+    ASSERT_TRUE(add("/start"));
+    write(others);
+    ASSERT_TRUE(add("/notes a.txt"));
+    ASSERT_TRUE(add("/a.velvane"));
+    ASSERT_TRUE(add("/b.velvane"));
+    ASSERT_TRUE(RecentFiles::removeOurs(list));
+    EXPECT_EQ(text().count("<bookmark href="), 1);
+    EXPECT_FALSE(text().contains("Velvane")) << text().data();
+    for (const char *part :
+         {"href=\"file:///notes%20a.txt\"", "Notes &amp; more",
+          "<bookmark:group>Writing</bookmark:group>", "name=\"Writer\"", "count=\"7\""})
+        EXPECT_TRUE(text().contains(part)) << part;
+}
+
+TEST_F(RecentFilesTest, RemovingOursMakesNoListAndTouchesNoneThatIsNone)
+{
+    EXPECT_TRUE(RecentFiles::removeOurs(list));
+    EXPECT_FALSE(QFile::exists(list));
+    ASSERT_TRUE(add("/start"));
+    write("no list");
+    EXPECT_FALSE(RecentFiles::removeOurs(list));
+    EXPECT_EQ(text(), "no list");
+}
+
 TEST_F(RecentFilesTest, SeveralAtOnceLoseNothingOfEachOther)
 {
     const auto work = [this](int first) {

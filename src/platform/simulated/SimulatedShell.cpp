@@ -48,4 +48,10 @@ void SimulatedShell::noteRecent(const QString &file, const QString &type)
         m_log.add("note recent " + file + " as " + type);
 }
 
+void SimulatedShell::forgetRecent()
+{
+    if (works())
+        m_log.add("forget recent");
+}
+
 } // namespace velvane

@@ -20,6 +20,7 @@ public:
     bool reveal(const QString &file) override;
     bool open(const QUrl &address) override;
     void noteRecent(const QString &file, const QString &type) override;
+    void forgetRecent() override;
 
 private:
     EventLog &m_log;

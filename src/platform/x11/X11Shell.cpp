@@ -188,6 +188,11 @@ void X11Shell::noteRecent(const QString &file, const QString &type)
     inBackground([file, type] { RecentFiles::add(file, type, RecentFiles::standardList()); });
 }
 
+void X11Shell::forgetRecent()
+{
+    inBackground([] { RecentFiles::removeOurs(RecentFiles::standardList()); });
+}
+
 std::optional<Permission> X11Shell::settingsPage(const QUrl &address)
 {
     if (address.scheme() != "x-apple.systempreferences")

@@ -29,6 +29,7 @@ public:
     bool reveal(const QString &file) override;
     bool open(const QUrl &address) override;
     void noteRecent(const QString &file, const QString &type) override;
+    void forgetRecent() override;
 
     /// The permission whose settings page an address names; nothing for any other address.
     static std::optional<Permission> settingsPage(const QUrl &address);
