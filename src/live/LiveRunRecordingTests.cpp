@@ -128,6 +128,16 @@ TEST_F(LiveRunRecording, ADemoOfSeveralApplicationsIsRecordedWhole)
               QStringList("Recording saved to " + movieName() + " — revealed in Finder."));
 }
 
+TEST_F(LiveRunRecording, OfADemoOfSeveralApplicationsAPartWithOneIsRecordedWholeToo)
+{
+    addWindow("Notes");
+    options.recordMode = RecordMode::window;
+    project.setSteps({switchTo("Mail"), switchTo("Notes"), stepOf(StepKind::wait, 1s)});
+    run(project.steps()[1].id);
+    ASSERT_EQ(desktop.capture().requests().size(), 1U);
+    EXPECT_FALSE(isWindowRecorded());
+}
+
 TEST_F(LiveRunRecording, ARecordingThatCannotBeMadeDoesNotKeepTheDemoFromRunning)
 {
     desktop.capture().failWith("No capture today.");
