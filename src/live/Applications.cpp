@@ -92,7 +92,7 @@ void hideOtherApps(Desktop &desktop, const QString &except)
 
 void openAccessibilitySettings(Desktop &desktop)
 {
-    desktop.permissions().openSettings(Permission::accessibility);
+    desktop.shell().open(QUrl(SettingsAddress::accessibility));
 }
 
 QCoro::Task<> raiseBehindUs(Desktop &desktop, QString appNamed)

@@ -45,7 +45,7 @@ void closePopups()
 
 } // namespace
 
-X11Shell::X11Shell(const X11WindowManager &manager, AppControl &apps, Permissions &permissions)
+X11Shell::X11Shell(const X11WindowManager &manager, AppControl &apps, X11Permissions &permissions)
     : m_manager(manager)
     , m_apps(apps)
     , m_permissions(permissions)
@@ -190,13 +190,11 @@ void X11Shell::noteRecent(const QString &file, const QString &type)
 
 std::optional<Permission> X11Shell::settingsPage(const QUrl &address)
 {
-    if (address.scheme() != "x-apple.systempreferences")
-        return {};
-    if (address.query() == "Privacy_ListenEvent")
-        return Permission::inputMonitoring;
-    if (address.query() == "Privacy_ScreenCapture")
+    if (address == QUrl(SettingsAddress::accessibility))
+        return Permission::accessibility;
+    if (address == QUrl(SettingsAddress::screenRecording))
         return Permission::screenRecording;
-    return Permission::accessibility;
+    return {};
 }
 
 } // namespace velvane
