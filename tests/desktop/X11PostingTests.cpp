@@ -1,4 +1,5 @@
 #include "InputRecorder.h"
+#include "KeyboardMap.h"
 #include "X11Session.h"
 #include "base/KeyCode.h"
 #include "platform/x11/X11Xkb.h"
@@ -45,14 +46,6 @@ protected:
     InputRecorder recorder;
     X11Session session;
 };
-
-QByteArray keyboardMap(const QByteArray &display = qgetenv("DISPLAY"))
-{
-    QProcess dump;
-    dump.start("xkbcomp", {"-w0", "-xkb", QString::fromLocal8Bit(display), "-"});
-    dump.waitForFinished();
-    return dump.readAllStandardOutput();
-}
 
 void type(InputSynthesizer &input, const QString &text)
 {

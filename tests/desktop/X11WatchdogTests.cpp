@@ -1,4 +1,5 @@
 #include "Eventually.h"
+#include "KeyboardMap.h"
 #include "X11Session.h"
 #include "platform/x11/X11Xkb.h"
 
@@ -11,14 +12,6 @@
 namespace velvane {
 
 namespace {
-
-QByteArray keyboardMap(const QByteArray &display)
-{
-    QProcess dump;
-    dump.start("xkbcomp", {"-w0", "-xkb", QString::fromLocal8Bit(display), "-"});
-    dump.waitForFinished();
-    return dump.readAllStandardOutput();
-}
 
 // The watchdogs of a display, which no other test uses.
 QList<pid_t> watchdogs(const QByteArray &display)

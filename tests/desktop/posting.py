@@ -17,6 +17,8 @@ import time
 import unittest
 from pathlib import Path
 
+from keyboard import keyboard_map
+
 POST = os.environ.get("VELVANE_POST_INPUT", "")
 WINDOW = os.environ.get("VELVANE_TYPING_WINDOW", "")
 LAYOUTS = ("us", "de", "fr")
@@ -139,11 +141,6 @@ class QtWindow(Program):
 
     def command(self):
         return [WINDOW, str(self.file)]
-
-
-def keyboard_map():
-    return subprocess.run(["xkbcomp", "-w0", "-xkb", os.environ["DISPLAY"], "-"], check=True,
-                          capture_output=True).stdout
 
 
 def post(text):

@@ -18,6 +18,7 @@ from accessible import wait_for
 from driver import xdotool
 from fixture import PROGRAM, EditorTest, main, move, step, write_demo
 from heard import Heard
+from keyboard import keyboard_map
 from live import START, TOUR, pointer_at
 from server import Server
 
@@ -25,11 +26,6 @@ MOMENTS = 20 if "--all" in sys.argv else 3
 QUICKER = 6  # how many times quicker than its author wrote it the demo runs here
 LATE = 100  # milliseconds that a loaded machine may take to tell the program of the key
 ESCAPE = 9  # its key, and what is heard of it
-
-
-def keyboard_map():
-    return subprocess.run(["xkbcomp", "-w0", "-xkb", os.environ["DISPLAY"], "-"], check=True,
-                          capture_output=True).stdout
 
 
 def quick_tour():
