@@ -82,7 +82,8 @@ void X11Shell::hide()
 {
     if (!missing().isEmpty())
         return;
-    if (qGuiApp)
+    // A program on the command line may have no windows at all.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         onMainThread(closePopups);
     const std::lock_guard lock(m_mutex);
     X11WindowManager::Windows shown;
