@@ -170,6 +170,17 @@ TEST_F(LiveDriver, ASwitchActivatesThenCentresThenHidesTheOthers)
     EXPECT_TRUE(desktop.shell().hidden());
 }
 
+TEST_F(LiveDriver, ThePauseAfterASwitchBeginsOnceTheSwitchIsDone)
+{
+    runApp("Notes");
+    const Token slow = desktop.apps().watchActivations(
+        [this](const AppInfo &) { desktop.clock().advance(0.25s); });
+    Step step = switchTo("Notes");
+    step.pauseAfter = 0.5s;
+    run({stepOf(StepKind::wait, 1s), step, stepOf(StepKind::click)});
+    EXPECT_DOUBLE_EQ(desktop.posted().back().time.count(), 1.75);
+}
+
 TEST_F(LiveDriver, ASwitchHidesAndCentresOnlyWhenAsked)
 {
     runApp("Notes");
