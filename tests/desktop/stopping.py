@@ -19,7 +19,7 @@ from driver import xdotool
 from fixture import PROGRAM, EditorTest, main, move, step, write_demo
 from heard import Heard
 from keyboard import keyboard_map
-from live import START, TOUR, pointer_at
+from live_fixture import START, TOUR, pointer_at
 from server import Server
 
 MOMENTS = 20 if "--all" in sys.argv else 3
