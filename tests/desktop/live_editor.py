@@ -5,7 +5,7 @@ is back in front."""
 import subprocess
 
 from accessible import wait_for
-from driver import xdotool
+from driver import active_window, xdotool
 from fixture import main, move, step
 from heard import clicks
 from live_fixture import START, LiveTest, is_minimized, shown
@@ -28,7 +28,7 @@ class FromTheEditor(LiveTest):
     def test_the_toolbar_runs_the_demo_and_the_editor_comes_back(self):
         steps = [move(300, 200, duration=0.3), step("click")]
         editor = self.open(*steps)
-        with_window = xdotool("getactivewindow")
+        with_window = active_window()
         since = self.heard.forget()
         editor.click(self.run_button(editor))
         self.wait_countdown(editor)
@@ -38,12 +38,12 @@ class FromTheEditor(LiveTest):
         self.assertEqual(self.overlay(editor), "")
         # The first two are the click on the button.
         self.assertEqual(self.heard.buttons(since)[2:], clicks(steps, START))
-        self.assertEqual(xdotool("getactivewindow"), with_window)
+        self.assertEqual(active_window(), with_window)
         self.assertEqual(self.heard.held(), set())
 
     def test_escape_stops_a_drag_and_the_editor_comes_back(self):
         editor = self.open(step("hold"), move(900, 700, duration=60.0))
-        window = xdotool("getactivewindow")
+        window = active_window()
         editor.key("ctrl+r")
         wait_for(lambda: len(self.heard.motions()) > 10, "a drag under way")
         editor.wait(lambda: self.overlay(editor) == "Live run in progress — Esc to stop",
@@ -52,7 +52,7 @@ class FromTheEditor(LiveTest):
         xdotool("key", "Escape")
         editor.wait_status("Live run stopped.")
         self.assertEqual(self.heard.held(), set())
-        editor.wait(lambda: xdotool("getactivewindow") == window, "the editor in front")
+        editor.wait(lambda: active_window() == window, "the editor in front")
 
     def test_escape_in_the_countdown_posts_nothing(self):
         editor = self.open(step("click"))
@@ -93,7 +93,7 @@ class FromTheEditor(LiveTest):
     def test_others_are_hidden_and_we_come_back(self):
         other = self.start_other()
         editor = self.open(step("switchApp", text="Nobody", pauseAfter=3600.0))
-        window = xdotool("getactivewindow").strip()
+        window = active_window()
         editor.click(editor.find("push button", "Run options"))
         editor.wait_menu()
         editor.choose("Hide other apps during run")
@@ -103,7 +103,7 @@ class FromTheEditor(LiveTest):
         xdotool("key", "Escape")
         wait_for(lambda: not is_minimized(window), "the editor")
         editor.wait_status("Live run stopped.")
-        editor.wait(lambda: xdotool("getactivewindow").strip() == window, "the editor in front")
+        editor.wait(lambda: active_window() == window, "the editor in front")
         self.assertTrue(is_minimized(other), "what was hidden stays hidden")
 
 
