@@ -97,7 +97,7 @@ bool RecordActionsController::begin()
     m_outcome = Outcome::refused;
     QString refused = missing();
     if (refused.isEmpty() && !m_desktop.permissions().request(Permission::accessibility)) {
-        m_desktop.permissions().openSettings(Permission::accessibility);
+        m_desktop.shell().open(QUrl(SettingsAddress::accessibility));
         refused = tr("Grant Accessibility permission to Velvane, then run again.");
     }
     if (!refused.isEmpty()) {

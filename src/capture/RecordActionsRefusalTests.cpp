@@ -15,7 +15,10 @@ TEST_F(RecordActionsFixture, WithoutThePermissionItIsAskedForAndTheSettingsOpen)
     desktop.permissions().setGranted(Permission::accessibility, false);
     record();
     EXPECT_EQ(reported, QStringList({noAccessibility}));
-    EXPECT_EQ(desktop.log(), QStringList({"request accessibility", "openSettings accessibility"}));
+    EXPECT_EQ(desktop.log(),
+              QStringList({"request accessibility",
+                           "open x-apple.systempreferences:com.apple.preference.security"
+                           "?Privacy_Accessibility"}));
     EXPECT_EQ(controller.outcome(), RecordActionsController::Outcome::refused);
     EXPECT_FALSE(controller.isBusy());
     EXPECT_EQ(now(), 0);

@@ -43,12 +43,6 @@ double area(const WindowInfo &window)
     return window.frame.width() * window.frame.height();
 }
 
-bool isNamed(const AppInfo &app, const QString &name)
-{
-    return app.name.compare(name, Qt::CaseInsensitive) == 0
-           || app.localizedName.compare(name, Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 struct RunRecorder::Take {
@@ -146,7 +140,7 @@ std::optional<WindowInfo> RunRecorder::mainWindow(const QString &ofApp,
     const WindowInfo *found = nullptr;
     for (const WindowInfo &window : in) {
         const QSizeF size = window.frame.size();
-        const bool isCandidate = !name.isEmpty() && window.onScreen && isNamed(window.owner, name)
+        const bool isCandidate = window.onScreen && window.owner.isNamed(name)
                                  && size.width() > smallWindow.width()
                                  && size.height() > smallWindow.height();
         if (isCandidate && (!found || area(window) > area(*found)))

@@ -141,7 +141,7 @@ void ScreenStream::endStream()
 
 void ScreenStream::openScreenRecordingSettings()
 {
-    m_desktop.permissions().openSettings(Permission::screenRecording);
+    m_desktop.shell().open(QUrl(SettingsAddress::screenRecording));
 }
 
 void ScreenStream::setRunning(bool running)

@@ -287,7 +287,9 @@ TEST_F(ScreenStreamTest, ALateEndOfAnOlderStreamLeavesTheNewOneAlone)
 TEST_F(ScreenStreamTest, TheSettingsPageIsTheOneOfScreenRecording)
 {
     stream.openScreenRecordingSettings();
-    EXPECT_EQ(desktop.log(), QStringList{"openSettings screenRecording"});
+    EXPECT_EQ(desktop.log(),
+              (QStringList{"open x-apple.systempreferences:com.apple.preference.security"
+                           "?Privacy_ScreenCapture"}));
 }
 
 TEST(FrameMailbox, WhatASlowReaderMissedStaysChanged)

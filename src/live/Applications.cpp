@@ -19,18 +19,10 @@ QString trimmed(const QString &name)
     return begin < end ? QString(begin, end - begin) : QString();
 }
 
-bool isNamed(const AppInfo &app, const QString &name)
-{
-    const auto equals = [&name](const QString &other) {
-        return !other.isEmpty() && other.compare(name, Qt::CaseInsensitive) == 0;
-    };
-    return equals(app.name) || equals(app.localizedName);
-}
-
 std::optional<AppInfo> find(const std::vector<AppInfo> &apps, const QString &name)
 {
     const auto found =
-        std::ranges::find_if(apps, [&](const AppInfo &app) { return isNamed(app, name); });
+        std::ranges::find_if(apps, [&](const AppInfo &app) { return app.isNamed(name); });
     return found == apps.end() ? std::nullopt : std::optional(*found);
 }
 
@@ -84,7 +76,7 @@ void hideOtherApps(Desktop &desktop, const QString &except)
 {
     const QString kept = trimmed(except);
     for (const AppInfo &app : desktop.apps().running()) {
-        if (app.policy == AppPolicy::regular && !app.ours && !isNamed(app, kept))
+        if (app.policy == AppPolicy::regular && !app.ours && !app.isNamed(kept))
             desktop.apps().hide(app);
     }
     desktop.shell().hide();
@@ -92,7 +84,7 @@ void hideOtherApps(Desktop &desktop, const QString &except)
 
 void openAccessibilitySettings(Desktop &desktop)
 {
-    desktop.permissions().openSettings(Permission::accessibility);
+    desktop.shell().open(QUrl(SettingsAddress::accessibility));
 }
 
 QCoro::Task<> raiseBehindUs(Desktop &desktop, QString appNamed)

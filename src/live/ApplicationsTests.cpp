@@ -198,7 +198,9 @@ TEST_F(LiveApplications, WhatDoesNotRunIsNotRaisedBehindUs)
 TEST_F(LiveApplications, TheSettingsAreThoseOfTheLiveRunsPermission)
 {
     Live::openAccessibilitySettings(desktop);
-    EXPECT_EQ(desktop.log(), QStringList("openSettings accessibility"));
+    EXPECT_EQ(desktop.log(),
+              QStringList("open x-apple.systempreferences:com.apple.preference.security"
+                          "?Privacy_Accessibility"));
 }
 
 } // namespace velvane

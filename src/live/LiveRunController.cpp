@@ -132,13 +132,13 @@ QCoro::Task<> LiveRunController::countDown()
     setLiveCountdown(0);
 }
 
-// A demo that moves between applications is recorded whole.
+// A demo that moves between applications is recorded whole, also when only its end is run.
 void LiveRunController::startRecording(const Snapshot &demo)
 {
     if (m_options.recordMode == RecordMode::off || m_stop.isMade())
         return;
-    const bool isWindow =
-        m_options.recordMode == RecordMode::window && !StepList::hasSeveralSwitchApps(demo.steps);
+    const bool isWindow = m_options.recordMode == RecordMode::window
+                          && !StepList::hasSeveralSwitchApps(m_project.steps());
     m_recorder = std::make_unique<RunRecorder>(m_desktop);
     connect(m_recorder.get(), &RunRecorder::ended, this, [this](const QString &reason) {
         Q_EMIT reported(tr("Recording stopped: %1").arg(reason));

@@ -35,7 +35,10 @@ TEST_F(LiveRunRefusal, WithoutPermissionItAsksForItAndOpensTheSettings)
     EXPECT_TRUE(controller.canRunLive());
     run();
     EXPECT_EQ(reported, QStringList("Grant Accessibility permission to Velvane, then run again."));
-    EXPECT_EQ(desktop.log(), QStringList({"request accessibility", "openSettings accessibility"}));
+    EXPECT_EQ(desktop.log(),
+              QStringList({"request accessibility",
+                           "open x-apple.systempreferences:com.apple.preference.security"
+                           "?Privacy_Accessibility"}));
     expectNothingDone();
 }
 

@@ -24,9 +24,8 @@ void Pace::sleep(Seconds duration)
     // NaN is not above 0 either.
     if (!(duration > Seconds(0)))
         return;
-    const Seconds now = m_clock.now();
-    if (now - m_time > duration)
-        m_time = now;
+    if (m_clock.now() - m_time > duration)
+        restart();
     m_time += duration;
     lookForDisplay();
     while (!isOver() && m_clock.now() < m_time) {

@@ -9,8 +9,9 @@ namespace velvane::Live {
 /// A run is over when it is cancelled, or soon after the desktop has lost its display.
 ///
 /// Every wait ends a duration after the end of the wait before, however late the work in between
-/// came, so that small delays do not add up. Only when a whole wait has been missed, as after
-/// starting an application, does it begin anew: events never come in a burst.
+/// came, so that small delays do not add up. Work that is to take time of its own, such as bringing
+/// an application forward, is followed by restart(). When a whole wait has been missed it begins
+/// anew by itself: events never come in a burst.
 class Pace {
 public:
     /// Time begins now. Borrows the desktop.
@@ -21,6 +22,9 @@ public:
     /// Waits. Negative durations and NaN count as 0; the end of the run ends it early, a cancelled
     /// one when the clock is woken.
     void sleep(Seconds duration);
+
+    /// Lets the next wait count from now.
+    void restart() { m_time = m_clock.now(); }
 
 private:
     void lookForDisplay();

@@ -39,6 +39,18 @@ TEST_F(LivePace, AWaitThatWasMissedWhollyBeginsAnew)
     EXPECT_DOUBLE_EQ(now(), 0.8);
 }
 
+TEST_F(LivePace, RestartedItsNextWaitIsAWholeOneAndThoseAfterFollowIt)
+{
+    pace.sleep(0.5s);
+    desktop.clock().advance(0.25s);
+    pace.restart();
+    pace.sleep(0.5s);
+    EXPECT_DOUBLE_EQ(now(), 1.25);
+    desktop.clock().advance(0.25s);
+    pace.sleep(0.5s);
+    EXPECT_DOUBLE_EQ(now(), 1.75);
+}
+
 TEST_F(LivePace, NegativeDurationsAndNaNTakeNoTime)
 {
     pace.sleep(-3s);

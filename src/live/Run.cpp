@@ -110,6 +110,8 @@ private:
             centerWindow(m_desktop, step.text);
         if (m_hideOthers)
             hideOtherApps(m_desktop, step.text);
+        // None of this shortens the pause that the application may need to come forward.
+        m_pace.restart();
     }
 
     Desktop &m_desktop;

@@ -38,10 +38,10 @@ TEST_F(LiveDriver, TheCursorTravelsByACubicEaseInAndOut)
 {
     demo.fps = 40;
     demo.startPoint = {0, 0};
-    run({moveTo({1000, -100}, 0.1s)});
+    run({moveTo({1000, 100}, 0.1s)});
     EXPECT_EQ(desktop.log(), QStringList({"mouseMoved 0,0", "mouseMoved 0,0",
-                                          "mouseMoved 62.5,-6.25", "mouseMoved 500,-50",
-                                          "mouseMoved 937.5,-93.75", "mouseMoved 1000,-100"}));
+                                          "mouseMoved 62.5,6.25", "mouseMoved 500,50",
+                                          "mouseMoved 937.5,93.75", "mouseMoved 1000,100"}));
 }
 
 TEST_F(LiveDriver, PartsOfAnIntervalAreCutOff)
@@ -168,6 +168,17 @@ TEST_F(LiveDriver, ASwitchActivatesThenCentresThenHidesTheOthers)
     EXPECT_EQ(desktop.log(), QStringList({"mouseMoved 10,20", "activate Notes",
                                           "moveWindow 1 500,256", "hide Mail", "hide ourselves"}));
     EXPECT_TRUE(desktop.shell().hidden());
+}
+
+TEST_F(LiveDriver, ThePauseAfterASwitchBeginsOnceTheSwitchIsDone)
+{
+    runApp("Notes");
+    const Token slow = desktop.apps().watchActivations(
+        [this](const AppInfo &) { desktop.clock().advance(0.25s); });
+    Step step = switchTo("Notes");
+    step.pauseAfter = 0.5s;
+    run({stepOf(StepKind::wait, 1s), step, stepOf(StepKind::click)});
+    EXPECT_DOUBLE_EQ(desktop.posted().back().time.count(), 1.75);
 }
 
 TEST_F(LiveDriver, ASwitchHidesAndCentresOnlyWhenAsked)

@@ -24,13 +24,17 @@ void typeString(InputSynthesizer &input, const QString &text, Seconds over, Pace
         return pace.sleep(over);
     const QStringList characters = Graphemes::split(text);
     const Seconds each = delay(over, characters.size());
-    const auto typing = input.beginTyping(text);
+    auto typing = input.beginTyping(text);
+    // Where keys must be lent characters, that and taking them back take time of their own.
+    pace.restart();
     for (const QString &character : characters) {
         if (pace.isOver())
             return;
         typing->post(character);
         pace.sleep(each);
     }
+    typing.reset();
+    pace.restart();
 }
 
 } // namespace velvane::Live

@@ -34,7 +34,53 @@ protected:
     Live::Pace pace{desktop, [this] { return cancelled; }};
 };
 
+// Takes half a second each to begin and to end typing, as where keys must be lent characters.
+class Lending final : public InputSynthesizer {
+public:
+    explicit Lending(SimulatedDesktop &desktop) : m_desktop(desktop) {}
+
+    void moveTo(QPointF, bool) override {}
+    void press(MouseButton, QPointF) override {}
+    void release(MouseButton, QPointF) override {}
+    void pressKey(quint16, quint64) override {}
+    std::unique_ptr<Typing> beginTyping(const QString &text) override
+    {
+        m_desktop.clock().advance(0.5s);
+        return std::make_unique<Lent>(m_desktop, text);
+    }
+
+private:
+    class Lent final : public Typing {
+    public:
+        Lent(SimulatedDesktop &desktop, const QString &text)
+            : m_desktop(desktop)
+            , m_typing(desktop.input().beginTyping(text))
+        {}
+        ~Lent() override { m_desktop.clock().advance(0.5s); }
+        void post(const QString &character) override { m_typing->post(character); }
+
+    private:
+        SimulatedDesktop &m_desktop;
+        const std::unique_ptr<Typing> m_typing;
+    };
+
+    SimulatedDesktop &m_desktop;
+};
+
 } // namespace
+
+TEST_F(LiveTyping, WhereKeysMustBeLentCharactersThatTakesNothingFromIntervalsAndPauses)
+{
+    Lending lending(desktop);
+    pace.sleep(1s);
+    Live::typeString(lending, "ab", 1s, pace);
+    pace.sleep(2s);
+    const auto typed = presses();
+    ASSERT_EQ(typed.size(), 2U);
+    EXPECT_DOUBLE_EQ(typed[0].second, 1.5);
+    EXPECT_DOUBLE_EQ(typed[1].second, 1.59);
+    EXPECT_NEAR(now(), 1.5 + 2 * 0.09 + 0.5 + 2, 1e-9);
+}
 
 TEST_F(LiveTyping, AShortTextIsNotTypedSlowerThanElevenCharactersASecond)
 {

@@ -29,6 +29,16 @@ struct AppInfo {
     bool ours = false;
     /// Its windows, oldest first, as WindowInfo::id names them; empty when it does not run.
     QList<quint64> windows;
+
+    /// Is it this application's name, in either language? Capitals do not matter; an empty name is
+    /// no name.
+    bool isNamed(const QString &wanted) const
+    {
+        const auto equals = [&wanted](const QString &own) {
+            return !own.isEmpty() && own.compare(wanted, Qt::CaseInsensitive) == 0;
+        };
+        return equals(name) || equals(localizedName);
+    }
 };
 
 } // namespace velvane

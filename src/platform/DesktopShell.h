@@ -24,7 +24,8 @@ public:
     /// Shows a file selected in the file manager, brought forward. False when that fails.
     virtual bool reveal(const QString &file) = 0;
 
-    /// Opens an address with whatever handles it. False when nothing does.
+    /// Opens an address with whatever handles it; a SettingsAddress opens the system's page on
+    /// which that permission is granted, or one that explains the remedy. False when nothing does.
     virtual bool open(const QUrl &address) = 0;
 
     /// Puts a file of this MIME type into the desktop's own list of recently used files, a little

@@ -31,7 +31,7 @@ public:
     };
 
     /// Puts the pointer at a point and says so to what lies there: as a drag of the left button
-    /// when `held`, else as a plain move.
+    /// when `held`, though a click has let it go, else as a plain move.
     virtual void moveTo(QPointF point, bool held) = 0;
 
     /// Presses or releases a button with the pointer at a point.

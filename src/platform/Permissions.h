@@ -14,6 +14,14 @@ enum class Permission {
     screenRecording,
 };
 
+/// The pages on which permissions are granted, for DesktopShell::open().
+namespace SettingsAddress {
+inline constexpr char accessibility[] =
+    "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
+inline constexpr char screenRecording[] =
+    "x-apple.systempreferences:com.apple.preference.security?Privacy_ScreenCapture";
+} // namespace SettingsAddress
+
 /// Tells and asks for what this program is allowed to do. Main thread.
 class Permissions : public Facility {
 public:
@@ -25,9 +33,6 @@ public:
 
     /// What is withheld and how to get it, in one or two sentences; empty when granted.
     virtual QString explanation(Permission permission) = 0;
-
-    /// Opens the system's page on which it is granted, or one that explains the remedy.
-    virtual void openSettings(Permission permission) = 0;
 };
 
 } // namespace velvane

@@ -44,6 +44,8 @@ public:
     /// display's.
     ///
     /// `ended` is called once, on the stream's thread, if the system ends the stream.
+    ///
+    /// The stream may be destroyed on any thread but its own; that waits for a call under way.
     virtual CaptureOpening open(const CaptureRequest &request, Captured captured, Ended ended) = 0;
 };
 

@@ -2,6 +2,7 @@
 // that watch what arrives in other programs, and what is left when this one is killed.
 //
 // usage: post-input hold X Y            presses the left button and holds it until killed
+//        post-input drag X Y            the same, lets it go by a click and drags on from there
 //        post-input key CODE MODIFIERS  one shortcut, by stored numbers
 //        post-input type SECONDS        types standard input, a character each SECONDS
 //        post-input repeat SECONDS      the same again and again until killed
@@ -48,8 +49,14 @@ int post(Desktop &desktop, const QStringList &arguments)
 {
     const QString what = arguments.value(1);
     const double first = arguments.value(2).toDouble();
-    if (what == "hold") {
-        desktop.input().press(MouseButton::left, {first, arguments.value(3).toDouble()});
+    if (what == "hold" || what == "drag") {
+        const QPointF place(first, arguments.value(3).toDouble());
+        desktop.input().press(MouseButton::left, place);
+        if (what == "drag") {
+            desktop.input().press(MouseButton::left, place);
+            desktop.input().release(MouseButton::left, place);
+            desktop.input().moveTo(place + QPointF(10, 0), true);
+        }
         say("held");
         pause();
     } else if (what == "key") {

@@ -256,9 +256,7 @@ TEST_F(X11LaunchTest, AFileThatIsNotThereIsNotRevealed)
 TEST_F(X11LaunchTest, ASettingsAddressOpensAPageThatExplains)
 {
     const Opener opener;
-    const QUrl settings(
-        "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility");
-    EXPECT_TRUE(session.desktop().shell().open(settings));
+    EXPECT_TRUE(session.desktop().shell().open(QUrl(SettingsAddress::accessibility)));
     ASSERT_EQ(opener.opened.size(), 1);
     QFile page(opener.opened.front().toLocalFile());
     ASSERT_TRUE(page.open(QFile::ReadOnly));

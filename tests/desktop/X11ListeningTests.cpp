@@ -1,94 +1,13 @@
-#include "Eventually.h"
-#include "InputPoster.h"
-#include "X11Session.h"
-#include "base/KeyCode.h"
-#include "platform/SystemClock.h"
-#include "platform/x11/X11InputTap.h"
-#include "platform/x11/X11KeyWatcher.h"
-#include "support/Print.h"
-
-#include <gtest/gtest.h>
+#include "X11ListeningFixture.h"
 
 #include <numeric>
-#include <semaphore>
+#include <thread>
 
 namespace velvane {
 
 namespace {
 
 using Kind = InputEvent::Kind;
-
-// X codes of keys by what an American keyboard writes on them.
-constexpr int keyA = 38, keyC = 54, keyE = 26, keyY = 29, keyZ = 52, equals = 21, bracket = 34;
-constexpr int escape = 9, shift = 50, control = 37, alt = 64, super = 133;
-
-// All that listens, on a server that nothing else uses.
-struct Listening {
-    explicit Listening(const QByteArray &display)
-        : connection(display)
-        , listener(connection, display, postedKeys)
-        , tap(listener, display, clock)
-        , keys(listener)
-        , poster(display)
-    {}
-
-    X11Connection connection;
-    SystemClock clock;
-    X11PostedKeys postedKeys;
-    X11Listener listener;
-    X11InputTap tap;
-    X11KeyWatcher keys;
-    InputPoster poster;
-};
-
-class X11ListeningTest : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        token = on.tap.listen([this](const InputEvent &event) { heard.push_back(event); },
-                              [this] { ++lost; });
-        ASSERT_TRUE(token);
-        // Where no test goes.
-        on.poster.move({700, 500});
-        ASSERT_TRUE(eventually([&] { return !heard.empty(); }));
-        heard.clear();
-    }
-
-    // All that was heard of what has been posted since the last call.
-    std::vector<InputEvent> all()
-    {
-        const QPoint end(701 + m_ends++, 599);
-        on.poster.move(end);
-        EXPECT_TRUE(
-            eventually([&] { return !heard.empty() && heard.back().point == QPointF(end); }));
-        if (!heard.empty())
-            heard.pop_back();
-        return std::exchange(heard, {});
-    }
-
-    QString typed()
-    {
-        QString text;
-        for (const InputEvent &event : all())
-            text += event.text;
-        return text;
-    }
-
-    void setLayout(const QStringList &arguments)
-    {
-        const QStringList display{"-display", QString::fromLocal8Bit(server.display())};
-        ASSERT_EQ(QProcess::execute("setxkbmap", display + arguments), 0);
-    }
-
-    TestServer server{{"-screen", "0", "800x600x24"}};
-    Listening on{server.display()};
-    std::vector<InputEvent> heard;
-    int lost = 0;
-    Token token;
-
-private:
-    int m_ends = 0;
-};
 
 std::vector<Kind> kinds(const std::vector<InputEvent> &events)
 {
@@ -193,57 +112,6 @@ TEST_F(X11ListeningTest, AHeldKeyRepeats)
         EXPECT_EQ(event.kind, Kind::keyDown);
         EXPECT_EQ(event.text, "a");
     }
-}
-
-TEST_F(X11ListeningTest, TextIsThatOfTheLayout)
-{
-    setLayout({"us"});
-    on.poster.tap(keyY);
-    on.poster.chord({shift}, keyA);
-    EXPECT_EQ(typed(), "yA");
-    setLayout({"fr"});
-    on.poster.tap(keyA);
-    on.poster.tap(11);
-    EXPECT_EQ(typed(), QString::fromUtf8("qé"));
-    setLayout({"de"});
-    on.poster.tap(keyY);
-    on.poster.chord({108}, 24);
-    EXPECT_EQ(typed(), "z@");
-}
-
-TEST_F(X11ListeningTest, DeadKeysTypeWithTheNext)
-{
-    setLayout({"de"});
-    on.poster.tap(equals);
-    on.poster.tap(keyE);
-    on.poster.tap(equals);
-    on.poster.chord({shift}, keyE);
-    EXPECT_EQ(typed(), QString::fromUtf8("éÉ"));
-    setLayout({"fr"});
-    on.poster.tap(bracket);
-    on.poster.tap(keyE);
-    EXPECT_EQ(typed(), QString::fromUtf8("ê"));
-}
-
-TEST_F(X11ListeningTest, ComposeSequencesType)
-{
-    setLayout({"us", "-option", "compose:menu"});
-    on.poster.tap(135);
-    on.poster.tap(keyA);
-    on.poster.tap(keyE);
-    EXPECT_EQ(typed(), QString::fromUtf8("æ"));
-}
-
-TEST_F(X11ListeningTest, ALayoutThatChangesInTheMiddleOfAWordCountsFromThereOn)
-{
-    setLayout({"us"});
-    // Not listened to in between, as when the main thread is busy.
-    on.poster.tap(keyY);
-    on.poster.tap(keyA);
-    setLayout({"fr"});
-    on.poster.tap(keyA);
-    on.poster.tap(keyY);
-    EXPECT_EQ(typed(), "yaqy");
 }
 
 TEST_F(X11ListeningTest, EventsAreDatedByTheClock)
@@ -351,82 +219,6 @@ TEST_F(X11ListeningTest, EndsCleanlyUnderAFloodAndBeginsAgain)
     }
     enough = true;
     flood.join();
-}
-
-TEST_F(X11ListeningTest, AWatcherIsCalledWhileTheMainThreadIsBusy)
-{
-    std::counting_semaphore<> presses(0);
-    const Token watch = on.keys.watch(KeyCode::escape, [&] { presses.release(); });
-    ASSERT_TRUE(watch);
-    on.poster.tap(keyA);
-    on.poster.chord({control}, escape);
-    EXPECT_TRUE(presses.try_acquire_for(std::chrono::seconds(10)));
-    EXPECT_FALSE(presses.try_acquire());
-}
-
-TEST_F(X11ListeningTest, AWatcherTellsOurPressesFromTheirsWhileBothPost)
-{
-    constexpr int each = 300;
-    std::atomic<int> presses = 0;
-    Token watch = on.keys.watch(KeyCode::escape, [&] { ++presses; });
-    ASSERT_TRUE(watch);
-    std::thread others([&] {
-        InputPoster other(server.display());
-        for (int i = 0; i < each; ++i) {
-            other.tap(escape);
-            other.tap(keyA);
-        }
-    });
-    // Two that press one key at the same time press it once: what counts is what was heard.
-    std::atomic<int> escapes = 0;
-    const Token count = on.listener.subscribe(
-        [&](const X11HeardEvent &event) {
-            escapes += event.type == XCB_KEY_PRESS && event.detail == escape ? 1 : 0;
-        },
-        [] {});
-    for (int i = 0; i < each; ++i) {
-        on.postedKeys.add(keyC);
-        on.poster.tap(keyC);
-    }
-    others.join();
-    all();
-    EXPECT_EQ(presses, each);
-    EXPECT_EQ(escapes, each);
-}
-
-TEST_F(X11ListeningTest, OurOwnEscDoesNotCountAndTheUsersDoes)
-{
-    std::atomic<int> presses = 0;
-    Token watch = on.keys.watch(KeyCode::escape, [&] { ++presses; });
-    ASSERT_TRUE(watch);
-    const auto ours = [&] {
-        on.postedKeys.add(escape);
-        on.poster.tap(escape);
-    };
-    ours();
-    all();
-    EXPECT_EQ(presses, 0);
-    on.poster.tap(escape);
-    ours();
-    on.poster.tap(escape);
-    all();
-    EXPECT_EQ(presses, 2);
-    watch.reset();
-    on.poster.tap(escape);
-    all();
-    EXPECT_EQ(presses, 2);
-}
-
-TEST_F(X11ListeningTest, WhatWasPostedWhileNobodyListenedHidesNoEscLater)
-{
-    token.reset();
-    on.postedKeys.add(escape);
-    on.poster.tap(escape);
-    std::atomic<int> presses = 0;
-    const Token watch = on.keys.watch(KeyCode::escape, [&] { ++presses; });
-    ASSERT_TRUE(watch);
-    on.poster.tap(escape);
-    EXPECT_TRUE(eventually([&] { return presses == 1; }));
 }
 
 TEST(X11Listening, AServerWithoutTheRecordExtensionRefuses)

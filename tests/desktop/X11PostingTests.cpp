@@ -1,4 +1,5 @@
 #include "InputRecorder.h"
+#include "KeyboardMap.h"
 #include "X11Session.h"
 #include "base/KeyCode.h"
 #include "platform/x11/X11Xkb.h"
@@ -46,14 +47,6 @@ protected:
     X11Session session;
 };
 
-QByteArray keyboardMap(const QByteArray &display = qgetenv("DISPLAY"))
-{
-    QProcess dump;
-    dump.start("xkbcomp", {"-w0", "-xkb", QString::fromLocal8Bit(display), "-"});
-    dump.waitForFinished();
-    return dump.readAllStandardOutput();
-}
-
 void type(InputSynthesizer &input, const QString &text)
 {
     const auto typing = input.beginTyping(text);
@@ -75,7 +68,7 @@ TEST_F(X11PostingTest, FarOutsideIsTheNearestEdgeAndNowhereIsSkipped)
     input().moveTo({1e18, -7}, false);
     input().moveTo({std::numeric_limits<double>::quiet_NaN(), 5}, false);
     input().press(MouseButton::left, {5, -std::numeric_limits<double>::infinity()});
-    input().moveTo({-1e300, 1e300}, true);
+    input().moveTo({-1e300, 1e300}, false);
     EXPECT_EQ(seen(),
               (std::vector<SeenEvent>{{motion, 0, {1919, 0}, 0}, {motion, 0, {0, 1079}, 0}}));
 }
@@ -89,6 +82,25 @@ TEST_F(X11PostingTest, ADragHoldsTheLeftButtonAllTheWay)
     input().release(MouseButton::left, {320, 310});
     const int held = XCB_BUTTON_MASK_1;
     EXPECT_EQ(seen(), (std::vector<SeenEvent>{{motion, 0, {300, 300}, 0},
+                                              {buttonPress, 1, {300, 300}, 0},
+                                              {motion, 0, {310, 305}, held},
+                                              {motion, 0, {320, 310}, held},
+                                              {buttonRelease, 1, {320, 310}, held}}));
+}
+
+TEST_F(X11PostingTest, ADragGoesOnAfterAClickAndEndsWithItsRelease)
+{
+    input().moveTo({300, 300}, false);
+    input().press(MouseButton::left, {300, 300});
+    input().press(MouseButton::left, {300, 300});
+    input().release(MouseButton::left, {300, 300});
+    input().moveTo({310, 305}, true);
+    input().moveTo({320, 310}, true);
+    input().release(MouseButton::left, {320, 310});
+    const int held = XCB_BUTTON_MASK_1;
+    EXPECT_EQ(seen(), (std::vector<SeenEvent>{{motion, 0, {300, 300}, 0},
+                                              {buttonPress, 1, {300, 300}, 0},
+                                              {buttonRelease, 1, {300, 300}, held},
                                               {buttonPress, 1, {300, 300}, 0},
                                               {motion, 0, {310, 305}, held},
                                               {motion, 0, {320, 310}, held},
@@ -220,8 +232,21 @@ TEST(X11PostingServers, WithoutXTestNothingCanBePosted)
     X11Session session(server.display());
     InputSynthesizer &input = session.desktop().input();
     EXPECT_TRUE(input.missing().contains("XTEST"));
+    const auto before = session.desktop().screens().pointer();
+    ASSERT_TRUE(before);
+    ASSERT_NE(*before, QPointF(5, 5));
+    InputRecorder recorder(server.display());
+    input.moveTo({5, 5}, false);
     input.press(MouseButton::left, {5, 5});
-    input.beginTyping("a")->post("a");
+    input.pressKey(0, 0);
+    const auto typing = input.beginTyping("a");
+    typing->post("a");
+    EXPECT_EQ(session.desktop().screens().pointer(), before);
+    // Of a pointer that another program moves, without posting, the recorder hears.
+    const X11Connection other(server.display());
+    xcb_warp_pointer(other.get(), XCB_NONE, other.root(), 0, 0, 0, 0, 99, 98);
+    xcb_flush(other.get());
+    EXPECT_EQ(recorder.until({99, 98}), std::vector<SeenEvent>());
 }
 
 TEST(X11PostingServers, AServerThatGoesAwayIsSurvived)

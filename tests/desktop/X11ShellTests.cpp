@@ -4,6 +4,7 @@
 #include "X11Session.h"
 #include "platform/x11/X11Property.h"
 #include "support/Print.h"
+#include "support/contracts/ShellContract.h"
 
 #include <QRasterWindow>
 
@@ -14,9 +15,9 @@ namespace velvane {
 namespace {
 
 // Windows of this process, and one of another.
-class X11ShellTest : public testing::Test {
-protected:
-    X11ShellTest()
+class X11ShellDesktop {
+public:
+    X11ShellDesktop()
     {
         other.setNumbers("_NET_WM_PID", XCB_ATOM_CARDINAL, {1});
         settled(connection);
@@ -73,7 +74,25 @@ public:
     xcb_window_t id() const { return static_cast<xcb_window_t>(winId()); }
 };
 
+class X11ShellTest : public testing::Test, public X11ShellDesktop {};
+
+// The contract's stage: one window of ours, in front.
+class X11ShellStage {
+public:
+    X11ShellStage() { shell().activate(); }
+
+    DesktopShell &shell() { return m_desktop.shell(); }
+    bool areShown() { return m_desktop.isShown(m_window.id()); }
+    bool haveKeyboard() { return m_desktop.active() == m_window.id(); }
+
+private:
+    X11ShellDesktop m_desktop;
+    const OwnWindow m_window;
+};
+
 } // namespace
+
+INSTANTIATE_TYPED_TEST_SUITE_P(X11, ShellContract, X11ShellStage);
 
 TEST_F(X11ShellTest, HiddenWindowsComeBackWhereTheyWereWithoutTheKeyboard)
 {

@@ -1,4 +1,5 @@
 #include "Eventually.h"
+#include "KeyboardMap.h"
 #include "X11Session.h"
 #include "platform/x11/X11Xkb.h"
 
@@ -6,19 +7,13 @@
 #include <csignal>
 #include <cstring>
 
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace velvane {
 
 namespace {
-
-QByteArray keyboardMap(const QByteArray &display)
-{
-    QProcess dump;
-    dump.start("xkbcomp", {"-w0", "-xkb", QString::fromLocal8Bit(display), "-"});
-    dump.waitForFinished();
-    return dump.readAllStandardOutput();
-}
 
 // The watchdogs of a display, which no other test uses.
 QList<pid_t> watchdogs(const QByteArray &display)
@@ -95,6 +90,25 @@ protected:
     QProcess program;
 };
 
+// As long as it lives this process can open no file more.
+class NoMoreFiles {
+public:
+    NoMoreFiles()
+    {
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        const int next = open("/dev/null", O_RDONLY | O_CLOEXEC);
+        close(next);
+        const rlimit none{rlim_t(next), m_before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoMoreFiles() { setrlimit(RLIMIT_NOFILE, &m_before); }
+    NoMoreFiles(const NoMoreFiles &) = delete;
+    NoMoreFiles &operator=(const NoMoreFiles &) = delete;
+
+private:
+    rlimit m_before{};
+};
+
 class X11WatchdogSignal : public X11WatchdogTest, public testing::WithParamInterface<int> {};
 
 const QByteArray unusual = QByteArray("aé日本語ждñ").repeated(40);
@@ -109,6 +123,15 @@ TEST_P(X11WatchdogSignal, InTheMiddleOfAHoldLeavesNothingPressed)
     end(GetParam());
     EXPECT_TRUE(eventually([&] { return !isButtonDown(); }));
     EXPECT_TRUE(eventually([&] { return guards().isEmpty(); })) << "it ends with its program";
+}
+
+TEST_P(X11WatchdogSignal, InADragThatGoesOnAfterAClickLeavesNothingPressed)
+{
+    start({"drag", "200", "200"});
+    ASSERT_TRUE(eventually([&] { return isButtonDown(); }));
+    end(GetParam());
+    EXPECT_TRUE(eventually([&] { return guards().isEmpty(); }));
+    EXPECT_FALSE(isButtonDown());
 }
 
 TEST_P(X11WatchdogSignal, InTheMiddleOfTypingLeavesTheKeyboardAsItWas)
@@ -176,6 +199,27 @@ TEST_F(X11WatchdogTest, IsStartedAgainWhenItDied)
     ASSERT_EQ(guards().size(), 1);
     EXPECT_NE(guards().front(), first);
     EXPECT_TRUE(isButtonDown()) << "what was held goes on";
+}
+
+TEST_F(X11WatchdogTest, WithoutItNothingIsLentAndWhatWasLentBeforeComesBack)
+{
+    const QByteArray before = keyboardMap(server.display());
+    QString text; // more than can be lent at a time
+    for (char16_t letter = 0x4e00; letter < 0x4e60; ++letter)
+        text += letter;
+    X11Session session(server.display());
+    const auto typing = session.desktop().input().beginTyping(text);
+    ASSERT_NE(keyboardMap(server.display()), before);
+    ASSERT_EQ(guards().size(), 1);
+    const pid_t guard = guards().front();
+    ::kill(guard, SIGKILL);
+    ASSERT_TRUE(eventually([&] { return hasEnded(guard); }));
+    {
+        const NoMoreFiles noOther;
+        for (const QChar letter : text)
+            typing->post(QString(letter));
+    }
+    EXPECT_EQ(keyboardMap(server.display()), before);
 }
 
 TEST_F(X11WatchdogTest, EndsWithTheServer)

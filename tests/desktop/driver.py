@@ -18,6 +18,12 @@ def xdotool(*arguments):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
+def active_window():
+    """The window with the keyboard; empty while none has it."""
+    command = ["xdotool", "getactivewindow"]
+    return subprocess.run(command, check=False, capture_output=True, text=True).stdout.strip()
+
+
 class Editor:
     """One running editor with one demo, in folders of its own."""
 

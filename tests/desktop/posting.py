@@ -3,8 +3,9 @@
 
 usage: posting.py [--all]
 A terminal, a GTK editor and a Qt window, each with another keyboard layout; with --all each with
-every layout, and again while all cores are busy. VELVANE_POST_INPUT and VELVANE_TYPING_WINDOW name
-the test programs; others type instead when VELVANE_TYPIST is "xdotool".
+every layout, and again while all cores are busy; and a little with Caps Lock on. VELVANE_POST_INPUT
+and VELVANE_TYPING_WINDOW name the test programs; others type instead when VELVANE_TYPIST is
+"xdotool".
 """
 
 import contextlib
@@ -16,6 +17,8 @@ import tempfile
 import time
 import unittest
 from pathlib import Path
+
+from keyboard import keyboard_map
 
 POST = os.environ.get("VELVANE_POST_INPUT", "")
 WINDOW = os.environ.get("VELVANE_TYPING_WINDOW", "")
@@ -141,11 +144,6 @@ class QtWindow(Program):
         return [WINDOW, str(self.file)]
 
 
-def keyboard_map():
-    return subprocess.run(["xkbcomp", "-w0", "-xkb", os.environ["DISPLAY"], "-"], check=True,
-                          capture_output=True).stdout
-
-
 def post(text):
     if os.environ.get("VELVANE_TYPIST") == "xdotool":
         command = ["xdotool", "type", "--delay", str(int(INTERVAL * 1000)), "--file", "-"]
@@ -177,23 +175,34 @@ def busy_cores():
             worker.wait()
 
 
-def type_into(kind, layout, count):
-    """Types into a new program of a kind; returns what was typed, what came, and the time."""
+def type_into(kind, layout, text):
+    """Types into a new program of a kind; returns what came, whether the keyboard map is the one
+    before, and the time."""
     subprocess.run(["setxkbmap", "-layout", layout], check=True)
-    text = text_of(count)
     with tempfile.TemporaryDirectory(prefix="velvane-typing.") as folder, kind(folder) as program:
         before = keyboard_map()
         started = time.monotonic()
         post(text)
         took = time.monotonic() - started
         same = keyboard_map() == before
-        return text, program.typed(), same, took
+        return program.typed(), same, took
+
+
+def caps_is_locked():
+    return "Caps Lock:   on" in output("xset", "q")
+
+
+def lock_caps(on):
+    if caps_is_locked() != on:
+        output("xdotool", "key", "Caps_Lock")
+    wait_for(lambda: caps_is_locked() == on, "Caps Lock")
 
 
 class Posting(unittest.TestCase):
     def check(self, kind, layout, count):
         with self.subTest(program=kind.name, layout=layout):
-            text, typed, same, took = type_into(kind, layout, count)
+            text = text_of(count)
+            typed, same, took = type_into(kind, layout, text)
             lost, wrong = faults(text, typed)
             print(f"{kind.name:14} {layout}  {count} characters in {took:.1f} s: "
                   f"{lost} lost, {wrong} wrong", file=sys.stderr)
@@ -205,6 +214,18 @@ class EachProgramWithALayout(Posting):
     def test_every_character_arrives(self):
         for kind, layout in zip((Terminal, GtkEditor, QtWindow), LAYOUTS, strict=True):
             self.check(kind, layout, 140)
+
+
+class CapsLock(unittest.TestCase):
+    def test_it_changes_nothing_on_a_german_keyboard_and_is_locked_afterwards(self):
+        subprocess.run(["setxkbmap", "-layout", "de"], check=True)
+        lock_caps(True)
+        self.addCleanup(lock_caps, False)
+        text = "aÄ1!äÖzZßẞ@é日"
+        typed, same, _ = type_into(QtWindow, "de", text)
+        self.assertEqual(typed, text)
+        self.assertTrue(same, "the keyboard map is not the one before")
+        self.assertTrue(caps_is_locked())
 
 
 class EveryProgramWithEveryLayout(Posting):
@@ -223,5 +244,5 @@ if __name__ == "__main__":
     if not POST or not WINDOW:
         sys.exit("set VELVANE_POST_INPUT and VELVANE_TYPING_WINDOW to the test programs")
     every = "--all" in sys.argv
-    unittest.main(argv=sys.argv[:1], verbosity=2, warnings="ignore",
-                  defaultTest="EveryProgramWithEveryLayout" if every else "EachProgramWithALayout")
+    tests = ["EveryProgramWithEveryLayout" if every else "EachProgramWithALayout", "CapsLock"]
+    unittest.main(argv=sys.argv[:1], verbosity=2, warnings="ignore", defaultTest=tests)

@@ -1,7 +1,10 @@
 """X servers of a test's own, beside the display that it runs on."""
 
 import os
+import select
 import subprocess
+
+PATIENCE = 30  # seconds
 
 
 class Server:
@@ -14,6 +17,9 @@ class Server:
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as told:
+            if not select.select([told], [], [], PATIENCE)[0]:
+                self.stop()
+                raise AssertionError(f"waited {PATIENCE} s for an X server")
             self.display = ":" + told.readline().strip()
 
     def stop(self):

@@ -15,21 +15,18 @@ import sys
 from pathlib import Path
 
 from accessible import wait_for
-from driver import xdotool
+from driver import active_window, xdotool
 from fixture import PROGRAM, EditorTest, main, move, step, write_demo
 from heard import Heard
-from live import START, TOUR, pointer_at
+from keyboard import keyboard_map
+from live_fixture import START, TOUR, pointer_at
 from server import Server
 
 MOMENTS = 20 if "--all" in sys.argv else 3
 QUICKER = 6  # how many times quicker than its author wrote it the demo runs here
 LATE = 100  # milliseconds that a loaded machine may take to tell the program of the key
+TRIES = 3  # at one moment, until the machine has told it soon
 ESCAPE = 9  # its key, and what is heard of it
-
-
-def keyboard_map():
-    return subprocess.run(["xkbcomp", "-w0", "-xkb", os.environ["DISPLAY"], "-"], check=True,
-                          capture_output=True).stdout
 
 
 def quick_tour():
@@ -45,7 +42,7 @@ class EscapeAtAnyMoment(EditorTest):
         super().setUp()
         self.demo.write_bytes(quick_tour())
         self.editor = self.run_editor()
-        self.window = xdotool("getactivewindow")
+        self.window = active_window()
         self.heard = Heard()
         self.addCleanup(self.heard.close)
 
@@ -75,11 +72,25 @@ class EscapeAtAnyMoment(EditorTest):
                 self.stop_after(event)
                 self.assertEqual(self.heard.held(), set())
                 self.assertTrue(keyboard_map() == before, "the keyboard map is not the one before")
-                self.editor.wait(lambda: xdotool("getactivewindow") == self.window,
+                self.editor.wait(lambda: active_window() == self.window,
                                  "the editor in front")
 
     def stop_after(self, event):
-        """Runs the demo and presses Esc as soon as so many events have been heard."""
+        """Runs the demo and presses Esc as soon as so many events have been heard: of the run at
+        most one more begins, the one that was on its way.
+
+        Until the program has heard of the key it cannot but go on; who is late there is the
+        machine, whose other work is not the same at each try.
+        """
+        for _ in range(TRIES):
+            begun, late = self.stop_once(event)
+            self.assertLess(late, LATE)
+            if begun <= 1:
+                return
+        self.fail(f"at each of {TRIES} tries more than one event began after Esc")
+
+    def stop_once(self, event):
+        """How many events began after Esc, and the milliseconds after it that the last did."""
         since = self.heard.forget()
         self.start()
         wait_for(lambda: len(self.heard.events) - since > event, "the moment")
@@ -87,12 +98,25 @@ class EscapeAtAnyMoment(EditorTest):
         self.wait_end("Live run stopped.")
         events = self.heard.events[since:]
         pressed = next(i for i, e in enumerate(events) if e[1:3] == ("key-down", ESCAPE))
-        later = [e for e in events[pressed + 1:] if e[2] != ESCAPE or e[1] != "key-up"]
-        # What was pressed then comes up; nothing else begins.
-        begun = [e for e in later if not e[1].endswith("up")]
-        print(f"event {event} of {len(events)}: {len(begun)} begun after Esc", file=sys.stderr)
-        if len(begun) > 1:
-            self.assertLess(begun[-1][0] - events[pressed][0], LATE, begun)
+        begun = beginnings([e for e in events[pressed + 1:] if e[2] != ESCAPE])
+        late = begun[-1] - events[pressed][0] if begun else 0
+        print(f"event {event} of {len(events)}: {len(begun)} begun after Esc, the last {late} ms "
+              "after it", file=sys.stderr)
+        return len(begun), late
+
+
+def beginnings(events):
+    """When each of the driver's events began: keys and buttons that are pressed together are one,
+    and what comes up has begun before."""
+    times, together = [], 0
+    for time, kind, *_ in events:
+        if kind.endswith("up"):
+            together = max(together - 1, 0)
+            continue
+        if kind == "motion" or together == 0:
+            times.append(time)
+        together += kind.endswith("down")
+    return times
 
 
 class LostDisplay(EditorTest):

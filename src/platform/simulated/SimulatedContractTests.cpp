@@ -7,6 +7,7 @@
 #include "support/contracts/PermissionsContract.h"
 #include "support/contracts/ScreenCaptureContract.h"
 #include "support/contracts/ScreensContract.h"
+#include "support/contracts/ShellContract.h"
 #include "support/contracts/WindowControlContract.h"
 
 #include <QPainter>
@@ -27,9 +28,12 @@ public:
     Permissions &permissions() { return m_desktop.permissions(); }
     ScreenCapture &capture() { return m_desktop.capture(); }
     Screens &screens() { return m_desktop.screens(); }
+    DesktopShell &shell() { return m_desktop.shell(); }
     WindowControl &windows() { return m_desktop.windows(); }
 
     void settle() {}
+    bool areShown() { return !m_desktop.shell().hidden(); }
+    bool haveKeyboard() { return m_desktop.shell().active(); }
     void movePointer(QPointF point) { m_desktop.screens().setPointer(point); }
     void userPresses(quint16 keyCode) { m_desktop.press(keyCode); }
 
@@ -87,6 +91,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Simulated, KeyboardContract, Simulation);
 INSTANTIATE_TYPED_TEST_SUITE_P(Simulated, PermissionsContract, Simulation);
 INSTANTIATE_TYPED_TEST_SUITE_P(Simulated, ScreenCaptureContract, Simulation);
 INSTANTIATE_TYPED_TEST_SUITE_P(Simulated, ScreensContract, Simulation);
+INSTANTIATE_TYPED_TEST_SUITE_P(Simulated, ShellContract, Simulation);
 INSTANTIATE_TYPED_TEST_SUITE_P(Simulated, WindowControlContract, Simulation);
 
 } // namespace velvane

@@ -2,11 +2,31 @@
 
 #include "base/KeyCode.h"
 
+#include <QLineF>
+
 #include <cmath>
 
 namespace velvane {
 
 using Kind = InputEvent::Kind;
+
+namespace {
+
+// The nearest place that a pointer can be at: that of a display's last pixel is 1 from its edge.
+QPointF nearest(const std::vector<Display> &displays, QPointF point)
+{
+    std::optional<QPointF> found;
+    for (const Display &display : displays) {
+        const QRectF places = display.frame.adjusted(0, 0, -1, -1);
+        const QPointF place(std::clamp(point.x(), places.left(), places.right()),
+                            std::clamp(point.y(), places.top(), places.bottom()));
+        if (!found || QLineF(point, place).length() < QLineF(point, *found).length())
+            found = place;
+    }
+    return found.value_or(point);
+}
+
+} // namespace
 
 void SimulatedTap::hear(const InputEvent &event)
 {
@@ -94,8 +114,10 @@ void SimulatedInput::post(InputEvent event)
     if (!works() || !std::isfinite(event.point.x()) || !std::isfinite(event.point.y()))
         return;
     event.time = m_clock.now();
-    if (event.kind != Kind::keyDown && event.kind != Kind::keyUp)
+    if (event.kind != Kind::keyDown && event.kind != Kind::keyUp) {
+        event.point = nearest(m_screens.displays(), event.point);
         m_screens.setPointer(event.point);
+    }
     m_log.add(event);
     m_tap.hear(event);
 }

@@ -49,9 +49,4 @@ QString SimulatedPermissions::explanation(Permission permission)
     return granted(permission) ? QString() : "Grant " + name(permission) + ".";
 }
 
-void SimulatedPermissions::openSettings(Permission permission)
-{
-    m_log.add("openSettings " + name(permission));
-}
-
 } // namespace velvane

@@ -8,7 +8,7 @@
 
 namespace velvane {
 
-/// Grants everything until told otherwise; notes requests and opened pages in the log.
+/// Grants everything until told otherwise; notes requests in the log.
 class SimulatedPermissions final : public Simulated<Permissions> {
 public:
     explicit SimulatedPermissions(EventLog &log) : m_log(log) {}
@@ -20,7 +20,6 @@ public:
     bool granted(Permission permission) override;
     bool request(Permission permission) override;
     QString explanation(Permission permission) override;
-    void openSettings(Permission permission) override;
 
 private:
     EventLog &m_log;

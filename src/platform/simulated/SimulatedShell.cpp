@@ -13,7 +13,7 @@ void SimulatedShell::hide()
 
 void SimulatedShell::unhide()
 {
-    if (!works())
+    if (!works() || !m_hidden)
         return;
     m_log.add("unhide ourselves");
     m_hidden = false;

@@ -100,7 +100,7 @@ TEST_P(WithoutDisplay, TheSettingsPageExplainsTheRemedy)
 {
     PageReader browser;
     X11Desktop desktop(environment());
-    desktop.permissions().openSettings(Permission::screenRecording);
+    EXPECT_TRUE(desktop.shell().open(QUrl(SettingsAddress::screenRecording)));
     EXPECT_TRUE(browser.page.contains("<h1>Taking pictures of the screen</h1>"));
     EXPECT_TRUE(browser.page.contains(
         desktop.permissions().explanation(Permission::screenRecording).toHtmlEscaped()));

@@ -51,13 +51,16 @@ QString X11InputSynthesizer::missing() const
                    !X11Watchdog::program().isEmpty());
 }
 
-void X11InputSynthesizer::moveTo(QPointF point, bool)
+void X11InputSynthesizer::moveTo(QPointF point, bool held)
 {
-    // Whether it is a drag the server knows by the buttons it holds.
     X11Poster *const to = poster();
-    if (!to)
+    const auto pixel = to ? to->space().pixel(point) : std::nullopt;
+    if (!pixel)
         return;
-    if (const auto pixel = to->space().pixel(point))
+    // To the server a drag is a move while a button is pressed, which a click may have let go.
+    if (held)
+        to->drag(*pixel);
+    else
         to->move(*pixel);
 }
 

@@ -17,7 +17,9 @@ public:
     bool granted(Permission permission) override;
     bool request(Permission permission) override { return granted(permission); }
     QString explanation(Permission permission) override;
-    void openSettings(Permission permission) override;
+
+    /// Shows a page that explains what is withheld and how to get it.
+    void openSettings(Permission permission);
 
     /// The extensions that something takes, by the names the server knows them by.
     static QList<QByteArray> extensions(Permission permission);

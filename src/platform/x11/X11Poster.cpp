@@ -12,6 +12,11 @@ namespace velvane {
 
 namespace {
 
+uint8_t bitOf(xcb_button_t button)
+{
+    return static_cast<uint8_t>(1U << button);
+}
+
 // A window that is never shown: whoever watches it sees when this connection ends.
 xcb_window_t makeWindow(const X11Connection &connection)
 {
@@ -81,23 +86,25 @@ void X11Poster::move(QPoint pixel)
     xcb_flush(m_connection.get());
 }
 
+void X11Poster::drag(QPoint pixel)
+{
+    constexpr xcb_button_t first = XCB_BUTTON_INDEX_1;
+    if ((m_held.buttons & bitOf(first)) == 0 && guard(first))
+        fake(XCB_BUTTON_PRESS, first);
+    move(pixel);
+}
+
 void X11Poster::button(xcb_button_t button, bool down, QPoint pixel)
 {
-    const auto bit = static_cast<uint8_t>(1U << button);
-    if (down) {
-        m_held.buttons |= bit;
-        if (!m_watchdog.tell(m_held)) {
-            m_held.buttons &= static_cast<uint8_t>(~bit);
-            return;
-        }
-    }
+    if (down && !guard(button))
+        return;
     // A move to where the pointer is would be heard as one.
     if (!pointerIsAt(pixel))
         fake(XCB_MOTION_NOTIFY, 0, pixel);
     fake(down ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE, button);
     xcb_flush(m_connection.get());
-    if (!down && (m_held.buttons & bit) != 0) {
-        m_held.buttons &= static_cast<uint8_t>(~bit);
+    if (!down && (m_held.buttons & bitOf(button)) != 0) {
+        m_held.buttons &= static_cast<uint8_t>(~bitOf(button));
         m_watchdog.tell(m_held);
     }
 }
@@ -161,6 +168,17 @@ void X11Poster::lockAgain()
     m_watchdog.tell(m_held);
 }
 
+// Has the watchdog know that a button is about to be pressed. False when nobody would release it.
+bool X11Poster::guard(xcb_button_t button)
+{
+    const uint8_t before = m_held.buttons;
+    m_held.buttons |= bitOf(button);
+    if (m_watchdog.tell(m_held))
+        return true;
+    m_held.buttons = before;
+    return false;
+}
+
 void X11Poster::fake(uint8_t type, uint8_t detail, QPoint pixel)
 {
     xcb_test_fake_input(m_connection.get(), type, detail, XCB_CURRENT_TIME, m_connection.root(),
@@ -189,12 +207,15 @@ void X11Poster::sync()
 
 void X11Poster::releaseAll()
 {
+    if (m_held.buttons == 0)
+        return;
     for (xcb_button_t button = 1; button < 8; ++button) {
-        if ((m_held.buttons >> button & 1) != 0)
+        if ((m_held.buttons & bitOf(button)) != 0)
             fake(XCB_BUTTON_RELEASE, button);
     }
     sync();
     m_held.buttons = 0;
+    m_watchdog.tell(m_held);
 }
 
 } // namespace velvane

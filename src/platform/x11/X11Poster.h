@@ -27,6 +27,8 @@ public:
 
     /// Moves the pointer to a root pixel.
     void move(QPoint pixel);
+    /// The same with the first button held: presses it first, where the pointer is, if it is not.
+    void drag(QPoint pixel);
     /// Moves the pointer there if it is elsewhere, and presses or releases a button.
     void button(xcb_button_t button, bool down, QPoint pixel);
     /// Presses keys in order and releases them in the opposite order.
@@ -42,6 +44,7 @@ public:
     void lockAgain();
 
 private:
+    bool guard(xcb_button_t button);
     void fake(uint8_t type, uint8_t detail, QPoint pixel = {});
     bool pointerIsAt(QPoint pixel) const;
     void changeLock(uint8_t modifiers, uint8_t locked);

@@ -45,7 +45,7 @@ void closePopups()
 
 } // namespace
 
-X11Shell::X11Shell(const X11WindowManager &manager, AppControl &apps, Permissions &permissions)
+X11Shell::X11Shell(const X11WindowManager &manager, AppControl &apps, X11Permissions &permissions)
     : m_manager(manager)
     , m_apps(apps)
     , m_permissions(permissions)
@@ -82,7 +82,8 @@ void X11Shell::hide()
 {
     if (!missing().isEmpty())
         return;
-    if (qGuiApp)
+    // A program on the command line may have no windows at all.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         onMainThread(closePopups);
     const std::lock_guard lock(m_mutex);
     X11WindowManager::Windows shown;
@@ -195,13 +196,11 @@ void X11Shell::forgetRecent()
 
 std::optional<Permission> X11Shell::settingsPage(const QUrl &address)
 {
-    if (address.scheme() != "x-apple.systempreferences")
-        return {};
-    if (address.query() == "Privacy_ListenEvent")
-        return Permission::inputMonitoring;
-    if (address.query() == "Privacy_ScreenCapture")
+    if (address == QUrl(SettingsAddress::accessibility))
+        return Permission::accessibility;
+    if (address == QUrl(SettingsAddress::screenRecording))
         return Permission::screenRecording;
-    return Permission::accessibility;
+    return {};
 }
 
 } // namespace velvane

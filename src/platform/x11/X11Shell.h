@@ -2,7 +2,7 @@
 
 #include "platform/AppControl.h"
 #include "platform/DesktopShell.h"
-#include "platform/Permissions.h"
+#include "platform/x11/X11Permissions.h"
 #include "platform/x11/X11WindowManager.h"
 
 #include <QObject>
@@ -20,7 +20,7 @@ namespace velvane {
 /// Revealing and opening work without a window manager too.
 class X11Shell final : public DesktopShell {
 public:
-    X11Shell(const X11WindowManager &manager, AppControl &apps, Permissions &permissions);
+    X11Shell(const X11WindowManager &manager, AppControl &apps, X11Permissions &permissions);
 
     QString missing() const override { return m_manager.missing(); }
     void hide() override;
@@ -31,7 +31,7 @@ public:
     void noteRecent(const QString &file, const QString &type) override;
     void forgetRecent() override;
 
-    /// The permission whose settings page an address names; nothing for any other address.
+    /// The permission whose settings page an address is; nothing for any other address.
     static std::optional<Permission> settingsPage(const QUrl &address);
 
 private:
@@ -45,7 +45,7 @@ private:
 
     const X11WindowManager &m_manager;
     AppControl &m_apps;
-    Permissions &m_permissions;
+    X11Permissions &m_permissions;
     /// Owns what waits for an answer, which must not outlive this.
     QObject m_pending;
     std::mutex m_mutex;

@@ -50,10 +50,11 @@ void X11SpareKeys::lend(const std::vector<xkb_keysym_t> &symbols)
             loans.push_back({key, {symbols[i], symbols[i]}});
         m_chords.insert(symbols[i], second ? KeyChord{m_shift, key} : KeyChord{key});
     }
-    if (!m_poster.lend(loans))
-        m_chords.clear();
-    if (!m_chords.isEmpty())
-        settle(afterChange);
+    if (m_poster.lend(loans))
+        return settle(afterChange);
+    // Those before stay lent otherwise, and nothing would take them back.
+    m_chords.clear();
+    m_poster.takeBackLoans();
 }
 
 std::optional<KeyChord> X11SpareKeys::chord(xkb_keysym_t symbol) const

@@ -151,13 +151,9 @@ TEST(X11Permissions, PostingTakesListeningToo)
 
 TEST(X11Shell, ASettingsAddressIsThePageOfItsPermission)
 {
-    const auto page = [](const QString &query) {
-        return X11Shell::settingsPage(
-            QUrl("x-apple.systempreferences:com.apple.preference.security?" + query));
-    };
-    EXPECT_EQ(page("Privacy_Accessibility"), Permission::accessibility);
-    EXPECT_EQ(page("Privacy_ScreenCapture"), Permission::screenRecording);
-    EXPECT_EQ(page("Privacy_ListenEvent"), Permission::inputMonitoring);
+    const auto page = [](const char *address) { return X11Shell::settingsPage(QUrl(address)); };
+    EXPECT_EQ(page(SettingsAddress::accessibility), Permission::accessibility);
+    EXPECT_EQ(page(SettingsAddress::screenRecording), Permission::screenRecording);
     EXPECT_FALSE(X11Shell::settingsPage(QUrl("https://example.org/?Privacy_Accessibility")));
     EXPECT_FALSE(X11Shell::settingsPage(QUrl()));
 }

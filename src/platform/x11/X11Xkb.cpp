@@ -1,9 +1,6 @@
 #include "platform/x11/X11Xkb.h"
 
-// A word of C++ is the name of a field there.
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
+#include "platform/x11/XcbXkb.h"
 
 namespace velvane {
 

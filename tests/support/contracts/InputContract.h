@@ -67,6 +67,24 @@ TYPED_TEST_P(InputContract, ADragIsPressDragsAndReleaseAtTheirPlaces)
     EXPECT_EQ(this->heard.back().point, QPointF(30, 10));
 }
 
+TYPED_TEST_P(InputContract, AMoveThatIsHeldDragsThoughAClickHasLetTheButtonGo)
+{
+    InputSynthesizer &input = this->stage.input();
+    input.moveTo({10, 10}, false);
+    input.press(MouseButton::left, {10, 10});
+    input.press(MouseButton::left, {10, 10});
+    input.release(MouseButton::left, {10, 10});
+    this->stage.settle();
+    this->heard.clear();
+    input.moveTo({30, 10}, true);
+    input.release(MouseButton::left, {30, 10});
+    const std::vector<InputEvent::Kind> kinds = this->kinds();
+    ASSERT_GE(kinds.size(), 2U);
+    EXPECT_EQ(kinds[kinds.size() - 2], InputEvent::Kind::leftMouseDragged);
+    EXPECT_EQ(kinds.back(), InputEvent::Kind::leftMouseUp);
+    EXPECT_EQ(this->heard.back().point, QPointF(30, 10));
+}
+
 TYPED_TEST_P(InputContract, TheRightButtonIsTheRightButton)
 {
     using Kind = InputEvent::Kind;
@@ -86,6 +104,21 @@ TYPED_TEST_P(InputContract, PointsThatAreNotFiniteAreSkipped)
     EXPECT_TRUE(this->kinds().empty());
 }
 
+TYPED_TEST_P(InputContract, PointsOutsideEveryDisplayEndAtTheNearestEdge)
+{
+    const std::vector<Display> displays = this->stage.screens().displays();
+    ASSERT_EQ(displays.size(), 1U);
+    const QPointF last = displays.front().frame.bottomRight() - QPointF(1, 1);
+    this->stage.input().moveTo({1e9, -1e9}, false);
+    this->stage.settle();
+    EXPECT_EQ(this->stage.screens().pointer(), QPointF(last.x(), 0));
+    this->stage.input().press(MouseButton::right, {-1e300, 1e18});
+    this->stage.input().release(MouseButton::right, {20, 1e300});
+    ASSERT_FALSE(this->kinds().empty());
+    EXPECT_EQ(this->heard.back().point, QPointF(20, last.y()));
+    EXPECT_EQ(this->stage.screens().pointer(), QPointF(20, last.y()));
+}
+
 TYPED_TEST_P(InputContract, TimesNeverGoBack)
 {
     for (int i = 0; i < 20; ++i)
@@ -103,7 +136,9 @@ TYPED_TEST_P(InputContract, NothingIsHeardAfterTheTokenHasEnded)
 
 REGISTER_TYPED_TEST_SUITE_P(InputContract, AMoveTakesThePointerThere,
                             ADragIsPressDragsAndReleaseAtTheirPlaces,
+                            AMoveThatIsHeldDragsThoughAClickHasLetTheButtonGo,
                             TheRightButtonIsTheRightButton, PointsThatAreNotFiniteAreSkipped,
-                            TimesNeverGoBack, NothingIsHeardAfterTheTokenHasEnded);
+                            PointsOutsideEveryDisplayEndAtTheNearestEdge, TimesNeverGoBack,
+                            NothingIsHeardAfterTheTokenHasEnded);
 
 } // namespace velvane

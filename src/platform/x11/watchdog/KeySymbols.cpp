@@ -1,13 +1,10 @@
 #include "platform/x11/watchdog/KeySymbols.h"
 
+#include "platform/x11/XcbXkb.h"
+
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-
-// A word of C++ is the name of a field there.
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace velvane {
 

@@ -6,15 +6,12 @@
 // has seen the last of that connection. Leaves its caller's process group; ends with the socket or
 // with the server.
 
+#include "platform/x11/XcbXkb.h"
 #include "platform/x11/watchdog/HeldInput.h"
 #include "platform/x11/watchdog/KeySymbols.h"
 
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
-// A word of C++ is the name of a field there.
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 #include <chrono>
 #include <csignal>
