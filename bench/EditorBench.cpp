@@ -1,4 +1,5 @@
 #include "LongDemo.h"
+#include "editor/AppCatalog.h"
 #include "editor/ContentView.h"
 #include "editor/StepListPane.h"
 #include "model/StepList.h"
@@ -26,7 +27,7 @@ struct Window {
         undo.setUndoLimit(20);
         project.setSteps(longDemo(count));
         project.setUndoManager(&undo);
-        view = std::make_unique<ContentView>(project, desktop, settings);
+        view = std::make_unique<ContentView>(project, desktop, settings, apps);
         view->resize(1440, 900);
         view->show();
         project.setSelection(project.steps()[count / 2].id);
@@ -43,6 +44,7 @@ struct Window {
     QTemporaryDir folder;
     QSettings stored{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
     RunSettings settings{stored};
+    AppCatalog apps{desktop.apps()};
     QUndoStack undo;
     Project project;
     std::unique_ptr<ContentView> view;

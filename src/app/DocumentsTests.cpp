@@ -263,6 +263,18 @@ TEST_F(DocumentsTest, AWindowTakesThePlaceAndPaneWidthsOfTheLast)
     EXPECT_EQ(next->content().paneWidths().inspector, 265);
 }
 
+TEST_F(DocumentsTest, WhatIsInstalledIsReadOnceForAllWindows)
+{
+    for (int i = 0; i < 2; ++i)
+        StepList::addStep(project(documents.newDemo()), StepKind::switchApp);
+    EXPECT_EQ(desktop.apps().installedReads(), 0) << "nothing is named yet";
+    for (EditorWindow *window : documents.windows()) {
+        Project &demo = project(window);
+        StepList::setApp(demo, 0, "Notes");
+    }
+    EXPECT_EQ(desktop.apps().installedReads(), 1);
+}
+
 TEST_F(DocumentsTest, TheSettingsStandUnderTheirKeys)
 {
     documents.runSettings().setHideOthersDuringRun(true);

@@ -59,7 +59,8 @@ void orderTabs(const QList<QWidget *> &panes)
 
 } // namespace
 
-ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settings, QWidget *parent)
+ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settings,
+                         AppCatalog &apps, QWidget *parent)
     : QWidget(parent)
     , m_project(project)
     , m_runSettings(settings)
@@ -67,7 +68,6 @@ ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settin
     , m_clipboard(project, m_selection)
     , m_fieldEditing(project)
     , m_timeline(project, m_playback)
-    , m_catalog(desktop.apps())
     , m_liveRun(project, m_playback, desktop, [&settings] { return RunOptions::from(settings); })
     , m_recordActions(project, m_playback, desktop)
     , m_backdrop(project, m_statusLine, desktop)
@@ -83,7 +83,7 @@ ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settin
     , m_stage(new StagePane(m_preview, m_backdrop))
     , m_transport(new TransportBar(project, m_playback, m_timeline))
     , m_inspector(new InspectorPane(
-          project, m_selection, new StepForm(project, m_fieldEditing, m_pickLocation, m_catalog),
+          project, m_selection, new StepForm(project, m_fieldEditing, m_pickLocation, apps),
           new SeveralStepsForm(project, m_selection, m_clipboard, m_fieldEditing),
           new DemoSettingsForm(project, m_fieldEditing, desktop.screens(), m_statusLine)))
     , m_statusView(new StatusLineView(m_statusLine, m_export))

@@ -65,7 +65,7 @@ class ContentView : public QWidget {
     Q_OBJECT
 public:
     /// Borrows all it is given. Undo entries go to the project's undo stack.
-    ContentView(Project &project, Desktop &desktop, RunSettings &settings,
+    ContentView(Project &project, Desktop &desktop, RunSettings &settings, AppCatalog &apps,
                 QWidget *parent = nullptr);
     ~ContentView() override;
 
@@ -123,7 +123,6 @@ private:
     FieldEditing m_fieldEditing;
     Playback m_playback;
     PreviewTimeline m_timeline;
-    AppCatalog m_catalog;
     LiveRunController m_liveRun;
     RecordActionsController m_recordActions;
     BackdropController m_backdrop;
