@@ -80,6 +80,40 @@ void selectAll(benchmark::State &state)
     }
 }
 
+// Everything is selected before, and the copies after.
+void duplicateAll(benchmark::State &state)
+{
+    Window window(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.view->selection().selectAll();
+        window.settle();
+        state.ResumeTiming();
+        window.view->clipboard().duplicate();
+        window.settle();
+        state.PauseTiming();
+        window.view->fieldEditing().undo();
+        window.settle();
+        state.ResumeTiming();
+    }
+}
+
+// While everything is selected.
+void moveSection(benchmark::State &state)
+{
+    Window window(state.range(0));
+    window.view->selection().selectAll();
+    const qsizetype last = window.view->stepListPane().model().rowCount();
+    for (auto _ : state) {
+        StepList::moveVisible(window.project, {0}, last);
+        window.settle();
+        state.PauseTiming();
+        window.view->fieldEditing().undo();
+        window.settle();
+        state.ResumeTiming();
+    }
+}
+
 void scroll(benchmark::State &state)
 {
     Window window(state.range(0));
@@ -159,6 +193,8 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 BENCHMARK(openWindow)->Apply(sizes);
 BENCHMARK(selectOne)->Apply(sizes);
 BENCHMARK(selectAll)->Apply(sizes);
+BENCHMARK(duplicateAll)->Apply(sizes);
+BENCHMARK(moveSection)->Apply(sizes);
 BENCHMARK(scroll)->Apply(sizes);
 BENCHMARK(type)->Apply(sizes);
 BENCHMARK(addAndUndo)->Apply(sizes);
