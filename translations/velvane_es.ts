@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>Mover inicio</translation>
     </message>
     <message>
@@ -148,6 +148,11 @@ convierte en una película H.264 o se ejecuta en el escritorio real.</translatio
         <translation>El idioma de todos los textos, p. ej., de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Opciones</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -177,11 +182,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>memoria insuficiente</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Se están grabando acciones.</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>no se puede escribir: %1</translation>
@@ -190,11 +190,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>Cambiar lienzo</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>Cambiar velocidad de fotogramas</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -752,6 +747,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Cambiar duración</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>Cambiar velocidad de fotogramas</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>no se puede escribir: otro Velvane está escribiendo en su carpeta</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>una película de %1 × %2 píxeles no es posible: los lados van de 1 a %3 píxeles</translation>
@@ -770,6 +775,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>una película de %1 × %2 píxeles a %3 fotogramas por segundo no es posible: tiene %4 macrobloques por segundo, y H.264 permite %5</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>Se están grabando acciones.</translation>
     </message>
     <message>
         <source>Delete Step</source>
@@ -2245,11 +2255,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>Subcomandos</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Opciones</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

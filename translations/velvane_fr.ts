@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>Déplacer le départ</translation>
     </message>
     <message>
@@ -148,6 +148,11 @@ film H.264 ou exécutée sur le vrai bureau.</translation>
         <translation>La langue de tous les textes, p. ex. de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Options</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -177,11 +182,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>mémoire insuffisante</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Des actions sont en cours d’enregistrement.</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>ne peut pas être écrit : %1</translation>
@@ -190,11 +190,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>Modifier le canevas</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>Modifier la cadence</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -752,6 +747,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Modifier la durée</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>Modifier la cadence</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>ne peut pas être écrit : un autre Velvane est en train d’écrire dans son dossier</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>un film de %1 × %2 pixels est impossible : les côtés vont de 1 à %3 pixels</translation>
@@ -770,6 +775,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>un film de %1 × %2 pixels à %3 images par seconde est impossible : il a %4 macroblocs par seconde, et H.264 en permet %5</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>Des actions sont en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>Delete Step</source>
@@ -2245,11 +2255,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>Sous-commandes</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Options</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>
