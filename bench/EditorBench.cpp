@@ -1,4 +1,5 @@
 #include "LongDemo.h"
+#include "editor/AppCatalog.h"
 #include "editor/ContentView.h"
 #include "editor/StepListPane.h"
 #include "model/StepList.h"
@@ -26,7 +27,7 @@ struct Window {
         undo.setUndoLimit(20);
         project.setSteps(longDemo(count));
         project.setUndoManager(&undo);
-        view = std::make_unique<ContentView>(project, desktop, settings);
+        view = std::make_unique<ContentView>(project, desktop, settings, apps);
         view->resize(1440, 900);
         view->show();
         project.setSelection(project.steps()[count / 2].id);
@@ -43,6 +44,7 @@ struct Window {
     QTemporaryDir folder;
     QSettings stored{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
     RunSettings settings{stored};
+    AppCatalog apps{desktop.apps()};
     QUndoStack undo;
     Project project;
     std::unique_ptr<ContentView> view;
@@ -73,6 +75,40 @@ void selectAll(benchmark::State &state)
         window.settle();
         state.PauseTiming();
         window.view->selection().select({});
+        window.settle();
+        state.ResumeTiming();
+    }
+}
+
+// Everything is selected before, and the copies after.
+void duplicateAll(benchmark::State &state)
+{
+    Window window(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.view->selection().selectAll();
+        window.settle();
+        state.ResumeTiming();
+        window.view->clipboard().duplicate();
+        window.settle();
+        state.PauseTiming();
+        window.view->fieldEditing().undo();
+        window.settle();
+        state.ResumeTiming();
+    }
+}
+
+// While everything is selected.
+void moveSection(benchmark::State &state)
+{
+    Window window(state.range(0));
+    window.view->selection().selectAll();
+    const qsizetype last = window.view->stepListPane().model().rowCount();
+    for (auto _ : state) {
+        StepList::moveVisible(window.project, {0}, last);
+        window.settle();
+        state.PauseTiming();
+        window.view->fieldEditing().undo();
         window.settle();
         state.ResumeTiming();
     }
@@ -157,6 +193,8 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 BENCHMARK(openWindow)->Apply(sizes);
 BENCHMARK(selectOne)->Apply(sizes);
 BENCHMARK(selectAll)->Apply(sizes);
+BENCHMARK(duplicateAll)->Apply(sizes);
+BENCHMARK(moveSection)->Apply(sizes);
 BENCHMARK(scroll)->Apply(sizes);
 BENCHMARK(type)->Apply(sizes);
 BENCHMARK(addAndUndo)->Apply(sizes);

@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>Startpunkt verschieben</translation>
     </message>
     <message>
@@ -187,11 +187,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>zu wenig Speicher</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Es werden gerade Aktionen aufgenommen.</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>kann nicht geschrieben werden: %1</translation>
@@ -200,11 +195,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>Leinwand ändern</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>Bildrate ändern</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -757,6 +747,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Dauer ändern</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>Bildrate ändern</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>kann nicht geschrieben werden: Ein anderes Velvane schreibt gerade in ihren Ordner</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>ein Film von %1 × %2 Pixeln ist nicht möglich: Seiten haben 1 bis %3 Pixel</translation>
@@ -775,6 +775,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>ein Film von %1 × %2 Pixeln mit %3 Bildern pro Sekunde ist nicht möglich: Er hat %4 Makroblöcke pro Sekunde, und H.264 erlaubt %5</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>Es werden gerade Aktionen aufgenommen.</translation>
     </message>
     <message>
         <source>Delete Step</source>

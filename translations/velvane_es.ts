@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>Mover inicio</translation>
     </message>
     <message>
@@ -187,11 +187,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>memoria insuficiente</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Se están grabando acciones.</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>no se puede escribir: %1</translation>
@@ -200,11 +195,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>Cambiar lienzo</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>Cambiar velocidad de fotogramas</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -757,6 +747,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Cambiar duración</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>Cambiar velocidad de fotogramas</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>no se puede escribir: otro Velvane está escribiendo en su carpeta</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>una película de %1 × %2 píxeles no es posible: los lados van de 1 a %3 píxeles</translation>
@@ -775,6 +775,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>una película de %1 × %2 píxeles a %3 fotogramas por segundo no es posible: tiene %4 macrobloques por segundo, y H.264 permite %5</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>Se están grabando acciones.</translation>
     </message>
     <message>
         <source>Delete Step</source>

@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>Déplacer le départ</translation>
     </message>
     <message>
@@ -187,11 +187,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>mémoire insuffisante</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>Des actions sont en cours d’enregistrement.</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>ne peut pas être écrit : %1</translation>
@@ -200,11 +195,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>Modifier le canevas</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>Modifier la cadence</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -757,6 +747,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Modifier la durée</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>Modifier la cadence</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>ne peut pas être écrit : un autre Velvane est en train d’écrire dans son dossier</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>un film de %1 × %2 pixels est impossible : les côtés vont de 1 à %3 pixels</translation>
@@ -775,6 +775,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>un film de %1 × %2 pixels à %3 images par seconde est impossible : il a %4 macroblocs par seconde, et H.264 en permet %5</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>Des actions sont en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>Delete Step</source>

@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>開始位置を移動</translation>
     </message>
     <message>
@@ -187,11 +187,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>メモリーが足りません</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>操作を記録しています。</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>書き込めません: %1</translation>
@@ -200,11 +195,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>キャンバスを変更</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>フレームレートを変更</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -757,6 +747,16 @@ Results go to standard output, messages and progress to standard error.
         <translation>時間を変更</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>フレームレートを変更</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>書き込めません: 別のVelvaneがこのフォルダーに書き込み中です</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>%1×%2ピクセルのムービーは作れません: 各辺は1〜%3ピクセルです</translation>
@@ -775,6 +775,11 @@ Results go to standard output, messages and progress to standard error.
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>%1×%2ピクセル、毎秒%3フレームのムービーは作れません: マクロブロックが毎秒%4個あり、H.264の上限は毎秒%5個です</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>操作を記録しています。</translation>
     </message>
     <message>
         <source>Delete Step</source>

@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Move Start</source>
-        <extracomment>CanvasController, DemoSettings, FieldEditing</extracomment>
+        <extracomment>CanvasController, FieldEditing</extracomment>
         <translation>移动起点</translation>
     </message>
     <message>
@@ -186,11 +186,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>内存不足</translation>
     </message>
     <message>
-        <source>Actions are being recorded.</source>
-        <extracomment>ContentView</extracomment>
-        <translation>正在录制操作。</translation>
-    </message>
-    <message>
         <source>cannot be written: %1</source>
         <extracomment>DemoDocument</extracomment>
         <translation>无法写入：%1</translation>
@@ -199,11 +194,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Change Canvas</source>
         <extracomment>DemoSettings, FieldEditing</extracomment>
         <translation>更改画布</translation>
-    </message>
-    <message>
-        <source>Change Frame Rate</source>
-        <extracomment>DemoSettings, FieldEditing</extracomment>
-        <translation>更改帧率</translation>
     </message>
     <message>
         <source>“%1” is not a file.</source>
@@ -756,6 +746,16 @@ Results go to standard output, messages and progress to standard error.
         <translation>更改时长</translation>
     </message>
     <message>
+        <source>Change Frame Rate</source>
+        <extracomment>FieldEditing</extracomment>
+        <translation>更改帧率</translation>
+    </message>
+    <message>
+        <source>cannot be written: another Velvane is writing in its folder</source>
+        <extracomment>FolderLock</extracomment>
+        <translation>无法写入：另一个 Velvane 正在写入其文件夹</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>无法制作 %1 × %2 像素的影片：边长须为 1 到 %3 像素</translation>
@@ -774,6 +774,11 @@ Results go to standard output, messages and progress to standard error.
         <source>a movie of %1 × %2 pixels at %3 frames per second is not possible: it has %4 macroblocks per second, and H.264 allows %5</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>无法制作 %1 × %2 像素、每秒 %3 帧的影片：它每秒有 %4 个宏块，而 H.264 最多允许 %5 个</translation>
+    </message>
+    <message>
+        <source>Actions are being recorded.</source>
+        <extracomment>InputTurns</extracomment>
+        <translation>正在录制操作。</translation>
     </message>
     <message>
         <source>Delete Step</source>

@@ -29,6 +29,8 @@ DocumentFile::Fate DocumentFile::fate() const
 std::optional<DocumentFile::Refusal> DocumentFile::write(const ProjectFile &demo)
 {
     const FolderLock lock(m_path);
+    if (const auto reason = lock.refusal())
+        return Refusal{.reason = *reason};
     if (fate() == Fate::changed)
         return Refusal{.isChanged = true};
     if (const auto reason = DemoDocument::write(demo, m_path))

@@ -1,5 +1,6 @@
 #include "app/DocumentFile.h"
 
+#include "base/FolderLock.h"
 #include "model/DemoDocument.h"
 #include "model/ProjectFile.h"
 
@@ -141,6 +142,20 @@ TEST_F(DocumentFileTest, WritingMakesItTheFileAsWritten)
     EXPECT_FALSE(file.write(DemoDocument().snapshot()));
     EXPECT_EQ(file.fate(), Fate::unchanged);
     EXPECT_TRUE(DemoDocument::read(path("a")));
+}
+
+// It may be about to put another file in its place.
+TEST_F(DocumentFileTest, WhileAnotherProcessWritesThereNothingIsWritten)
+{
+    DocumentFile file(path("a"));
+    const FolderLock other(path("b"));
+    const auto refusal = file.write(DemoDocument().snapshot());
+    ASSERT_TRUE(refusal);
+    EXPECT_FALSE(refusal->isChanged);
+    EXPECT_EQ(refusal->reason, "cannot be written: another Velvane is writing in its folder");
+    QFile left(path("a"));
+    ASSERT_TRUE(left.open(QIODevice::ReadOnly));
+    EXPECT_EQ(left.readAll(), "one");
 }
 
 TEST_F(DocumentFileTest, AFileThatOthersChangedIsLeftToThem)

@@ -17,6 +17,7 @@ Documents::Documents(Desktop &desktop, QSettings &settings)
     , m_settings(settings)
     , m_runSettings(settings)
     , m_recents(settings)
+    , m_apps(desktop.apps())
 {
     connect(&m_recents, &RecentDemos::added, this, [this](const QString &path) {
         m_desktop.shell().noteRecent(path, QStringLiteral("application/vnd.orvikel.velvane"));

@@ -2,6 +2,7 @@
 
 #include "app/RecentDemos.h"
 #include "capture/RunSettings.h"
+#include "editor/AppCatalog.h"
 #include "editor/TaskbarProgress.h"
 #include "platform/Desktop.h"
 
@@ -29,6 +30,7 @@ public:
     QSettings &settings() { return m_settings; }
     RunSettings &runSettings() { return m_runSettings; }
     RecentDemos &recents() { return m_recents; }
+    AppCatalog &apps() { return m_apps; }
     const TaskbarProgress &taskbar() const { return m_taskbar; }
 
     const QList<EditorWindow *> &windows() const { return m_windows; }
@@ -89,6 +91,7 @@ private:
     QSettings &m_settings;
     RunSettings m_runSettings;
     RecentDemos m_recents;
+    AppCatalog m_apps;
     TaskbarProgress m_taskbar;
     QList<EditorWindow *> m_windows;
     bool m_isQuitting = false;

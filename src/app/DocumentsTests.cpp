@@ -263,13 +263,23 @@ TEST_F(DocumentsTest, AWindowTakesThePlaceAndPaneWidthsOfTheLast)
 {
     EditorWindow *window = documents.newDemo();
     window->setGeometry(40, 30, 1000, 610);
-    window->content().restorePaneWidths({310, 265});
+    window->content().panes().restore({310, 265});
     window->close();
     settle();
     EditorWindow *next = documents.newDemo();
     EXPECT_EQ(next->size(), QSize(1000, 610));
-    EXPECT_EQ(next->content().paneWidths().sidebar, 310);
-    EXPECT_EQ(next->content().paneWidths().inspector, 265);
+    EXPECT_EQ(next->content().panes().widths().sidebar, 310);
+    EXPECT_EQ(next->content().panes().widths().inspector, 265);
+}
+
+TEST_F(DocumentsTest, WhatIsInstalledIsReadOnceForAllWindows)
+{
+    for (const char *app : {"Notes", "Mail"}) {
+        Project &demo = project(documents.newDemo());
+        StepList::addStep(demo, StepKind::switchApp);
+        StepList::setApp(demo, 0, app);
+        EXPECT_EQ(desktop.apps().installedReads(), 1) << app;
+    }
 }
 
 TEST_F(DocumentsTest, TheSettingsStandUnderTheirKeys)

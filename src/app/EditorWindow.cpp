@@ -23,7 +23,7 @@ EditorWindow::EditorWindow(Documents &documents, std::unique_ptr<DemoDocument> d
     , m_file(file)
     , m_saved(m_document->project().docState())
     , m_content(new ContentView(m_document->project(), documents.desktop(), documents.runSettings(),
-                                this))
+                                documents.apps(), this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);

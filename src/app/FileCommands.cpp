@@ -4,6 +4,7 @@
 #include "app/EditorWindow.h"
 #include "editor/ContentView.h"
 #include "editor/DocumentCommands.h"
+#include "editor/MenuText.h"
 #include "editor/SymbolMenu.h"
 
 #include <QCoreApplication>
@@ -17,18 +18,13 @@ QString tr(const char *text)
     return QCoreApplication::translate("FileCommands", text);
 }
 
-/// Names stand in menus as they are: their "&" underlines nothing.
-QString escaped(QString name)
-{
-    return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
 void fillRecent(QMenu &menu, EditorWindow &window)
 {
     menu.clear();
     RecentDemos &recents = window.documents().recents();
     for (const RecentDemo &demo : recents.demos()) {
-        QAction *action = menu.addAction(escaped(tr("%1 — %2").arg(demo.name(), demo.folder())));
+        QAction *action =
+            menu.addAction(MenuText::escaped(tr("%1 — %2").arg(demo.name(), demo.folder())));
         action->setToolTip(demo.path);
         QObject::connect(action, &QAction::triggered, &window,
                          [&window, path = demo.path] { window.openRecent(path); });

@@ -1,7 +1,8 @@
 #include "app/HelpPage.h"
 
+#include "app/WebPage.h"
+
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QNetworkReply>
 
@@ -54,20 +55,14 @@ void HelpPage::open()
 
 void HelpPage::answered(bool isThere)
 {
-    if (isThere && show(m_places.online))
+    if (isThere && openPage(m_shell, m_places.online))
         return;
-    if (!m_places.local.isEmpty() && show(QUrl::fromLocalFile(m_places.local)))
+    if (!m_places.local.isEmpty() && openPage(m_shell, QUrl::fromLocalFile(m_places.local)))
         return;
     // A browser may reach what we cannot.
-    if (!isThere && show(m_places.online))
+    if (!isThere && openPage(m_shell, m_places.online))
         return;
     Q_EMIT failed();
-}
-
-bool HelpPage::show(const QUrl &page)
-{
-    // The session's shell knows best; without one Qt asks the desktop itself.
-    return m_shell.missing().isEmpty() ? m_shell.open(page) : QDesktopServices::openUrl(page);
 }
 
 } // namespace velvane

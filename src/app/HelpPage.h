@@ -36,7 +36,6 @@ Q_SIGNALS:
 
 private:
     void answered(bool isThere);
-    bool show(const QUrl &page);
 
     DesktopShell &m_shell;
     const HelpPlaces m_places;

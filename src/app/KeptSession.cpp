@@ -95,6 +95,7 @@ KeptSession::Ptr KeptSession::adopt(const QString &path)
 // Nobody sees the folder before it is locked: it comes into being under a hidden name.
 std::optional<QString> KeptSession::begin()
 {
+    const std::lock_guard lock(m_mutex);
     if (m_lock >= 0)
         return {};
     const QDir all(QFileInfo(m_path).path());
@@ -147,16 +148,25 @@ QList<KeptDemo> KeptSession::demos() const
 
 std::optional<QString> KeptSession::keep(const KeptDemo &demo, int turn)
 {
-    // What takes long comes before the lock, for which the main thread may wait.
-    const QByteArray contents = demo.contents();
-    const std::lock_guard lock(m_mutex);
-    const auto known = m_turns.find(demo.id);
-    if (known != m_turns.end() && known->second > turn)
-        return {};
     if (auto reason = begin())
         return reason;
-    if (auto reason = WholeFile::write(file(demo.id), contents))
+    // The main thread may wait for the lock: what takes long, the disk above all, goes without.
+    const QString written = m_path + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    if (auto reason = WholeFile::write(written, demo.contents()))
         return reason;
+    const std::lock_guard lock(m_mutex);
+    const auto known = m_turns.find(demo.id);
+    if (known != m_turns.end() && known->second > turn) {
+        QFile::remove(written);
+        return {};
+    }
+    if (::rename(QFile::encodeName(written).constData(),
+                 QFile::encodeName(file(demo.id)).constData())
+        != 0) {
+        const QString reason = qt_error_string(errno);
+        QFile::remove(written);
+        return reason;
+    }
     m_turns[demo.id] = turn;
     return {};
 }
@@ -170,7 +180,6 @@ void KeptSession::forget(const QUuid &id)
 
 bool KeptSession::take(const QUuid &id, KeptSession &from)
 {
-    const std::lock_guard lock(m_mutex);
     return !begin()
            && ::rename(QFile::encodeName(from.file(id)).constData(),
                        QFile::encodeName(file(id)).constData())

@@ -33,7 +33,8 @@ public:
     /// Keeps a demo instead of what was kept under its id. Of several the one with the highest
     /// `turn` stays, whichever comes last. Returns why it failed. Any thread.
     std::optional<QString> keep(const KeptDemo &demo, int turn);
-    /// Removes a demo; one of this id is never kept again. Any thread.
+    /// Removes a demo; one of this id is never kept again. Does not wait for what is being written.
+    /// Any thread.
     void forget(const QUuid &id);
     /// Takes over a demo from one that was left.
     bool take(const QUuid &id, KeptSession &from);
@@ -52,6 +53,7 @@ private:
     const QString m_path;
     /// Of the file "lock" in the folder; -1 while that is not on the disk.
     int m_lock = -1;
+    /// Guards the lock and the turns; nobody holds it while bytes go to the disk.
     std::mutex m_mutex;
     std::map<QUuid, int> m_turns;
 };

@@ -197,6 +197,21 @@ TEST_F(KeptSessionTest, AnOlderStateNeverReplacesANewerOne)
     EXPECT_TRUE(titles(session).isEmpty()) << "what was on its way comes too late";
 }
 
+TEST_F(KeptSessionTest, WhateverIsKeptOfADemoIsOneFile)
+{
+    KeptSession session(root());
+    const KeptDemo kept = demo("one");
+    for (const int turn : {1, 3, 2}) // the last comes too late
+        EXPECT_FALSE(session.keep(kept, turn));
+    const QString path = root() + '/' + onDisk().constFirst();
+    const QString name = kept.id.toString(QUuid::WithoutBraces) + ".kept";
+    const auto files = [&path] { return QDir(path).entryList(QDir::Files | QDir::Hidden); };
+    EXPECT_EQ(files(), (QStringList{name, "lock"}));
+    session.forget(kept.id);
+    EXPECT_FALSE(session.keep(kept, 4));
+    EXPECT_EQ(files(), QStringList{"lock"});
+}
+
 TEST_F(KeptSessionTest, AFileThatCannotBeReadIsLeftAlone)
 {
     crashWith({demo("one"), demo("two")});

@@ -4,10 +4,10 @@
 #include "app/EditorWindow.h"
 #include "app/Question.h"
 #include "app/UpdaterController.h"
+#include "app/WebPage.h"
 #include "editor/ContentView.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QMenu>
 
 namespace velvane::UpdaterCommands {
@@ -21,10 +21,7 @@ QString tr(const char *text)
 
 void open(DesktopShell &shell, const QUrl &page, QWidget *window)
 {
-    // The session's shell knows best; without one Qt asks the desktop itself.
-    const bool opened =
-        shell.missing().isEmpty() ? shell.open(page) : QDesktopServices::openUrl(page);
-    if (!opened)
+    if (!openPage(shell, page))
         ask(window, Question::message(tr("The download page could not be opened."),
                                       tr("It is found at %1.").arg(page.toString())));
 }
@@ -61,10 +58,13 @@ void addAutomatic(QMenu &menu, UpdaterController &updater)
 {
     QAction *automatic = menu.addAction(tr("Check for Updates Automatically"));
     automatic->setCheckable(true);
-    automatic->setChecked(updater.isAutomatic());
-    // Another window may have changed it.
-    QObject::connect(&menu, &QMenu::aboutToShow, automatic,
-                     [&updater, automatic] { automatic->setChecked(updater.isAutomatic()); });
+    automatic->setVisible(false);
+    // Not before: it takes a while until it is known whether there is a choice. And another window
+    // may have made it.
+    QObject::connect(&menu, &QMenu::aboutToShow, automatic, [&updater, automatic] {
+        automatic->setVisible(updater.isAvailable());
+        automatic->setChecked(updater.isAutomatic());
+    });
     QObject::connect(automatic, &QAction::triggered, &updater, &UpdaterController::setAutomatic);
 }
 
@@ -75,8 +75,7 @@ void addTo(QMenu &menu, EditorWindow &window, UpdaterController &updater)
     QAction *action = menu.addAction(tr("Check for Updates…"));
     QObject::connect(action, &QAction::triggered, &window,
                      [&updater, &window] { check(updater, &window); });
-    if (updater.isAvailable())
-        addAutomatic(menu, updater);
+    addAutomatic(menu, updater);
     QObject::connect(&updater, &UpdaterController::updateFound, &window,
                      [&window](const QString &name) {
                          window.content().statusLine().setMessage(

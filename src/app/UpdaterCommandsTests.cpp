@@ -92,7 +92,9 @@ TEST_F(UpdaterCommandsTest, LookingByItselfCanBeTurnedOff)
 {
     UpdaterController updater(source(), stored);
     UpdaterCommands::addTo(menu, *window, updater);
+    Q_EMIT menu.aboutToShow();
     QAction &automatic = MenuReader(menu).item("Check for Updates Automatically");
+    EXPECT_TRUE(automatic.isVisible());
     EXPECT_TRUE(automatic.isChecked());
     automatic.trigger();
     EXPECT_FALSE(updater.isAutomatic());
@@ -104,9 +106,17 @@ TEST_F(UpdaterCommandsTest, LookingByItselfCanBeTurnedOff)
 TEST_F(UpdaterCommandsTest, WhereThePackageManagerBringsUpdatesNoChoiceIsOffered)
 {
     UpdateSource owned = source();
-    owned.owner = PackageOwner::Owner::packageManager;
+    bool asked = false;
+    owned.owner = std::async(std::launch::deferred, [&asked] {
+        asked = true;
+        return PackageOwner::Owner::packageManager;
+    });
     UpdaterController updater(owned, stored);
+    updater.start();
     UpdaterCommands::addTo(menu, *window, updater);
+    EXPECT_FALSE(asked) << "no window waits for the answer";
+    Q_EMIT menu.aboutToShow();
+    EXPECT_TRUE(asked);
     EXPECT_EQ(MenuReader(menu).texts(), QStringList{"Check for Updates…"});
 }
 

@@ -32,8 +32,10 @@ UpdateSource UpdateSource::ofThisProgram()
     source.publicKey = QByteArray::fromBase64(VELVANE_UPDATE_KEY);
     source.version = QStringLiteral(VELVANE_VERSION);
     if (!source.feed.address.isEmpty())
-        source.owner = PackageOwner::of(
-            QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
+        source.owner =
+            std::async(std::launch::async, [program = QCoreApplication::applicationFilePath()] {
+                return PackageOwner::of(QFileInfo(program).canonicalFilePath());
+            });
     return source;
 }
 
@@ -62,9 +64,14 @@ UpdaterController &UpdaterController::shared()
     return *updater;
 }
 
+PackageOwner::Owner UpdaterController::owner() const
+{
+    return m_source.owner.valid() ? m_source.owner.get() : PackageOwner::Owner::none;
+}
+
 bool UpdaterController::isAvailable() const
 {
-    return !m_source.feed.address.isEmpty() && m_source.owner == PackageOwner::Owner::none;
+    return !m_source.feed.address.isEmpty() && owner() == PackageOwner::Owner::none;
 }
 
 bool UpdaterController::isAutomatic() const
@@ -79,7 +86,7 @@ void UpdaterController::setAutomatic(bool automatic)
 
 void UpdaterController::start()
 {
-    if (isAvailable())
+    if (!m_source.feed.address.isEmpty())
         m_timer.start(firstTick);
 }
 
@@ -104,8 +111,8 @@ void UpdaterController::checkForUpdates()
             {tr("No update feed is configured, so Velvane cannot check for updates."), {}, {}});
         return;
     }
-    if (m_source.owner != PackageOwner::Owner::none) {
-        Q_EMIT checked({PackageOwner::explanation(m_source.owner), {}, {}});
+    if (owner() != PackageOwner::Owner::none) {
+        Q_EMIT checked({PackageOwner::explanation(owner()), {}, {}});
         return;
     }
     m_isAsked = true;

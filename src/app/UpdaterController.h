@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QTimer>
 
+#include <future>
+
 namespace velvane {
 
 /// Where newer versions are announced, and what this one is.
@@ -15,7 +17,9 @@ struct UpdateSource {
     FeedRequest feed;     ///< no address: there is no feed
     QByteArray publicKey; ///< of the feed's maker
     QString version;      ///< of this program
-    PackageOwner::Owner owner = PackageOwner::Owner::none;
+    /// Who else brings the updates. Looking for that takes long, so it happens in the background;
+    /// not valid: nobody.
+    std::shared_future<PackageOwner::Owner> owner;
 
     /// As the program was built and installed.
     static UpdateSource ofThisProgram();
@@ -43,7 +47,7 @@ public:
     /// The one updater; made on first use, ends with the application.
     static UpdaterController &shared();
 
-    /// Can this program look for updates at all?
+    /// Can this program look for updates at all? May wait for who owns the program to be found.
     bool isAvailable() const;
     /// Does it look by itself, too?
     bool isAutomatic() const;
@@ -65,6 +69,7 @@ Q_SIGNALS:
     void updateFound(const QString &name);
 
 private:
+    PackageOwner::Owner owner() const;
     void look(const QDateTime &now);
     void finish(const QByteArray &feed);
     void answer(const UpdateAnswer &answer);

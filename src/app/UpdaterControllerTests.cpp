@@ -104,7 +104,7 @@ TEST_F(UpdaterControllerTest, WhoeverInstalledItBringsTheUpdates)
 {
     for (const auto owner : {PackageOwner::Owner::flatpak, PackageOwner::Owner::packageManager}) {
         UpdateSource owned = source();
-        owned.owner = owner;
+        owned.owner = std::async(std::launch::async, [owner] { return owner; });
         UpdaterController updater(owned, settings);
         EXPECT_FALSE(updater.isAvailable());
         EXPECT_EQ(check(updater).sentence, PackageOwner::explanation(owner));

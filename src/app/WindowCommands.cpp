@@ -2,6 +2,7 @@
 
 #include "app/Documents.h"
 #include "app/EditorWindow.h"
+#include "editor/MenuText.h"
 
 #include <QCoreApplication>
 #include <QMenu>
@@ -13,8 +14,7 @@ namespace {
 void addWindows(QMenu &menu, EditorWindow &current)
 {
     for (EditorWindow *window : current.documents().windows()) {
-        QAction *action =
-            menu.addAction(window->name().replace(QLatin1Char('&'), QStringLiteral("&&")));
+        QAction *action = menu.addAction(MenuText::escaped(window->name()));
         action->setCheckable(true);
         action->setChecked(window == &current);
         QObject::connect(action, &QAction::triggered, window,

@@ -32,7 +32,7 @@ bool isTaken(const QPoint &place, const QList<EditorWindow *> &windows)
 void remember(const EditorWindow &window, QSettings &settings)
 {
     settings.setValue(Key::geometry, window.saveGeometry());
-    const PaneWidths widths = window.content().paneWidths();
+    const PaneWidths widths = window.content().panes().widths();
     if (widths.sidebar > 0)
         settings.setValue(Key::sidebar, widths.sidebar);
     if (widths.inspector > 0)
@@ -44,7 +44,7 @@ void place(EditorWindow &window, QSettings &settings, const QList<EditorWindow *
     const QSize room = window.screen()->availableSize() - frame;
     window.resize(preferredSize.boundedTo(room).expandedTo(window.minimumSize()));
     window.restoreGeometry(settings.value(Key::geometry).toByteArray());
-    window.content().restorePaneWidths(
+    window.content().panes().restore(
         {settings.value(Key::sidebar).toInt(), settings.value(Key::inspector).toInt()});
     QRect at = window.geometry();
     while (isTaken(at.topLeft(), others))

@@ -1,5 +1,6 @@
 #include "base/FolderLock.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -14,8 +15,6 @@ namespace velvane {
 
 namespace {
 
-// Saving a demo with a large backdrop takes less.
-constexpr auto patience = std::chrono::seconds(2);
 constexpr auto interval = std::chrono::milliseconds(5);
 
 int openFolder(const QString &file)
@@ -26,29 +25,40 @@ int openFolder(const QString &file)
     return open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-bool lock(int folder)
-{
-    const auto end = std::chrono::steady_clock::now() + patience;
-    while (flock(folder, LOCK_EX | LOCK_NB) != 0) {
-        const bool isTaken = errno == EWOULDBLOCK || errno == EINTR;
-        if (!isTaken || std::chrono::steady_clock::now() > end)
-            return false;
-        std::this_thread::sleep_for(interval);
-    }
-    return true;
-}
-
 } // namespace
 
-FolderLock::FolderLock(const QString &file)
+FolderLock::State FolderLock::lock(int folder, Seconds patience)
+{
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (folder >= 0) {
+        if (flock(folder, LOCK_EX | LOCK_NB) == 0)
+            return State::ours;
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            break;
+        if (std::chrono::steady_clock::now() > end)
+            return State::others;
+        std::this_thread::sleep_for(interval);
+    }
+    return State::nobodys;
+}
+
+FolderLock::FolderLock(const QString &file, Seconds patience)
     : m_folder(openFolder(file))
-    , m_isLocked(m_folder >= 0 && lock(m_folder))
+    , m_state(lock(m_folder, patience))
 {}
 
 FolderLock::~FolderLock()
 {
     if (m_folder >= 0)
         close(m_folder);
+}
+
+std::optional<QString> FolderLock::refusal() const
+{
+    if (m_state != State::others)
+        return {};
+    return QCoreApplication::translate(
+        "FolderLock", "cannot be written: another Velvane is writing in its folder");
 }
 
 } // namespace velvane

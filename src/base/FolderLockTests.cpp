@@ -48,10 +48,23 @@ TEST(FolderLock, ALinkLeadsToTheFolderOfItsFile)
     EXPECT_TRUE(isFree(other.path()));
 }
 
-TEST(FolderLock, WithoutAFolderNothingIsLocked)
+TEST(FolderLock, WithoutAFolderNothingIsLockedOrRefused)
 {
     const QTemporaryDir folder;
-    EXPECT_FALSE(FolderLock(folder.filePath("missing/file")).isLocked());
+    const FolderLock lock(folder.filePath("missing/file"));
+    EXPECT_FALSE(lock.isLocked());
+    EXPECT_FALSE(lock.refusal());
+}
+
+// A lock belongs to what has opened the folder: one more here is like another process.
+TEST(FolderLock, WhileAnotherKeepsTheFolderNothingMayBeWritten)
+{
+    const QTemporaryDir folder;
+    const FolderLock first(folder.filePath("a"));
+    EXPECT_FALSE(first.refusal());
+    const FolderLock second(folder.filePath("b"), 0s);
+    EXPECT_FALSE(second.isLocked());
+    EXPECT_EQ(second.refusal(), "cannot be written: another Velvane is writing in its folder");
 }
 
 } // namespace velvane

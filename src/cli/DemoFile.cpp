@@ -24,7 +24,8 @@ void writeDemo(const ProjectFile &file, const QString &path)
 {
     // An editor may be about to replace the same file.
     const FolderLock lock(path);
-    if (const auto failure = DemoDocument::write(file, path))
+    const auto held = lock.refusal();
+    if (const auto failure = held ? held : DemoDocument::write(file, path))
         throw CommandError(QString::fromStdString(printable(path + ": " + *failure)));
 }
 

@@ -8,7 +8,8 @@
 
 namespace velvane {
 
-/// The applications that a person may choose by name, and their icons. Main thread.
+/// The applications that a person may choose by name, and their icons. One for all windows, so that
+/// what is installed is read once. Main thread.
 ///
 /// Names are unique within a list: of several applications with one name the first listed counts.
 /// Lists are sorted by name without regard to case as the user's language has it; names that

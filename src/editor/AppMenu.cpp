@@ -9,12 +9,6 @@ namespace {
 
 constexpr int appIcon = 16;
 
-/// Names stand in menus as they are: their "&" underlines nothing.
-QString escaped(QString name)
-{
-    return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
 } // namespace
 
 AppMenu::AppMenu(AppCatalog &catalog, QWidget *parent)
@@ -56,7 +50,7 @@ bool AppMenu::addSection(const QString &title, const std::vector<AppEntry> &entr
     MenuText::addHeader(*m_menu, title);
     QAction *current = nullptr;
     for (const AppEntry &entry : entries) {
-        QAction *action = m_menu->addAction(entry.icon, escaped(entry.name), this,
+        QAction *action = m_menu->addAction(entry.icon, MenuText::escaped(entry.name), this,
                                             [this, name = entry.name] { Q_EMIT chosen(name); });
         if (mark && entry.name == m_name)
             current = action;

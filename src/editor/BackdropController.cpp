@@ -8,7 +8,7 @@ namespace velvane {
 
 namespace {
 
-bool isInteger(double value)
+bool fitsInt(double value)
 {
     return std::isfinite(value) && std::abs(value) <= std::numeric_limits<int>::max();
 }
@@ -81,7 +81,7 @@ void BackdropController::freezeFrame()
     m_project.edit(tr("Freeze Frame"), [&] {
         m_project.setBackground(frame.image);
         const QSizeF size = frame.size;
-        if (!size.isNull() && isInteger(size.width()) && isInteger(size.height()))
+        if (!size.isNull() && fitsInt(size.width()) && fitsInt(size.height()))
             m_project.setCanvasSize({std::trunc(size.width()), std::trunc(size.height())});
     });
     change([this] { m_frozen = true; });

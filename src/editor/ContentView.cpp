@@ -1,14 +1,13 @@
 #include "editor/ContentView.h"
 
-#include "editor/Controls.h"
 #include "editor/DemoSettings.h"
 #include "editor/DemoSettingsForm.h"
 #include "editor/EditorToolBar.h"
 #include "editor/InspectorPane.h"
 #include "editor/LiveOverlay.h"
 #include "editor/MenuActionsPublisher.h"
+#include "editor/PictureDrop.h"
 #include "editor/PreviewCanvas.h"
-#include "editor/ScreenRecordingPrompt.h"
 #include "editor/SeveralStepsForm.h"
 #include "editor/StagePane.h"
 #include "editor/StatusLineView.h"
@@ -19,28 +18,11 @@
 #include "live/Applications.h"
 #include "model/StepList.h"
 
-#include <QFrame>
 #include <QKeyEvent>
-#include <QSplitter>
-#include <QVBoxLayout>
 
 namespace velvane {
 
 namespace {
-
-QSplitter *splitter(QWidget *parent)
-{
-    auto *made = new QSplitter(Qt::Horizontal, parent);
-    made->setHandleWidth(1);
-    made->setChildrenCollapsible(false);
-    return made;
-}
-
-void setPaneWidths(QWidget &pane, int least, int most)
-{
-    pane.setMinimumWidth(least);
-    pane.setMaximumWidth(most);
-}
 
 /// Lets Tab go through the panes in this order, and through each as it is laid out.
 void orderTabs(const QList<QWidget *> &panes)
@@ -59,7 +41,8 @@ void orderTabs(const QList<QWidget *> &panes)
 
 } // namespace
 
-ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settings, QWidget *parent)
+ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settings,
+                         AppCatalog &apps, QWidget *parent)
     : QWidget(parent)
     , m_project(project)
     , m_runSettings(settings)
@@ -67,13 +50,13 @@ ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settin
     , m_clipboard(project, m_selection)
     , m_fieldEditing(project)
     , m_timeline(project, m_playback)
-    , m_catalog(desktop.apps())
     , m_liveRun(project, m_playback, desktop, [&settings] { return RunOptions::from(settings); })
     , m_recordActions(project, m_playback, desktop)
     , m_backdrop(project, m_statusLine, desktop)
     , m_live(m_backdrop, desktop)
     , m_recording(project, m_playback, m_timeline, m_backdrop, m_statusLine)
     , m_pickLocation(project, m_statusLine, desktop)
+    , m_turns(m_liveRun, m_recordActions, m_pickLocation)
     , m_canvas(project, m_statusLine, m_fieldEditing.gesture())
     , m_export(project, m_statusLine, m_backdrop, m_fieldEditing.gesture(),
                ExportPanel::over(*this))
@@ -83,19 +66,18 @@ ContentView::ContentView(Project &project, Desktop &desktop, RunSettings &settin
     , m_stage(new StagePane(m_preview, m_backdrop))
     , m_transport(new TransportBar(project, m_playback, m_timeline))
     , m_inspector(new InspectorPane(
-          project, m_selection, new StepForm(project, m_fieldEditing, m_pickLocation, m_catalog),
+          project, m_selection, new StepForm(project, m_fieldEditing, m_pickLocation, apps),
           new SeveralStepsForm(project, m_selection, m_clipboard, m_fieldEditing),
           new DemoSettingsForm(project, m_fieldEditing, desktop.screens(), m_statusLine)))
     , m_statusView(new StatusLineView(m_statusLine, m_export))
     , m_scrubBar(new VideoScrubBar)
     , m_overlay(new LiveOverlay(this))
+    , m_panes(new PaneLayout(
+          *this, {m_steps, m_toolBar, m_stage, m_scrubBar, m_transport, m_inspector, m_statusView}))
 {
     // A click beside all controls takes the focus off them.
     setFocusPolicy(Qt::ClickFocus);
-    layOut();
-    wireMessages();
     wireStage();
-    wireLiveBackdrop();
     wireLiveRun();
     wireRecordActions();
     wireRecording();
@@ -113,86 +95,32 @@ ContentView::~ContentView()
     qDeleteAll(findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-void ContentView::layOut()
-{
-    auto *stageColumn = new QWidget(this);
-    auto *stageLayout = new QVBoxLayout(stageColumn);
-    stageLayout->setContentsMargins(0, 0, 0, 0);
-    stageLayout->setSpacing(0);
-    stageLayout->addWidget(m_stage, 1);
-    stageLayout->addWidget(m_scrubBar);
-    stageLayout->addWidget(m_transport);
-
-    m_inner = splitter(this);
-    m_inner->addWidget(stageColumn);
-    m_inner->addWidget(m_inspector);
-    m_inner->setStretchFactor(0, 1);
-    setPaneWidths(*m_inspector, Metrics::inspectorMinimum, Metrics::inspectorMaximum);
-
-    auto *right = new QWidget(this);
-    auto *rightLayout = new QVBoxLayout(right);
-    rightLayout->setContentsMargins(0, 0, 0, 0);
-    rightLayout->setSpacing(0);
-    rightLayout->addWidget(m_toolBar);
-    rightLayout->addWidget(Controls::hairline(right));
-    rightLayout->addWidget(m_inner, 1);
-
-    m_outer = splitter(this);
-    m_outer->addWidget(m_steps);
-    m_outer->addWidget(right);
-    m_outer->setStretchFactor(1, 1);
-    setPaneWidths(*m_steps, Metrics::sidebarMinimum, Metrics::sidebarMaximum);
-    connect(m_outer, &QSplitter::splitterMoved, this,
-            [this] { m_userWidths.sidebar = m_outer->sizes().at(0); });
-    connect(m_inner, &QSplitter::splitterMoved, this,
-            [this] { m_userWidths.inspector = m_inner->sizes().at(1); });
-
-    auto *whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->setSpacing(0);
-    whole->addWidget(m_outer, 1);
-    whole->addWidget(m_statusView);
-}
-
-void ContentView::wireMessages()
-{
-    connect(&m_liveRun, &LiveRunController::reported, &m_statusLine, &StatusLine::setMessage);
-    connect(&m_recordActions, &RecordActionsController::reported, &m_statusLine,
-            &StatusLine::setMessage);
-}
-
 void ContentView::wireStage()
 {
     m_stage->offerRecording(m_recordActions);
-    connect(m_preview, &PreviewCanvas::fileDropped, this, [this](const QString &file) {
+    m_stage->askForPermission(m_live);
+    connect(&m_preview->drop(), &PictureDrop::fileDropped, this, [this](const QString &file) {
         if (const auto refusal = DemoSettings::setBackdrop(m_project, file))
             m_statusLine.setMessage(*refusal);
     });
-    connect(m_preview, &PreviewCanvas::pictureDropped, this,
+    connect(&m_preview->drop(), &PictureDrop::pictureDropped, this,
             [this](const QImage &picture) { DemoSettings::setBackdrop(m_project, picture); });
-    connect(m_preview, &PreviewCanvas::placeChanged, this, [this] {
+    const auto showCanvas = [this] {
+        m_statusView->setCanvas(m_project.canvasSize(), m_preview->scale());
+    };
+    connect(m_preview, &PreviewCanvas::placeChanged, this, [this, showCanvas] {
         m_overlay->setStage(QRect(m_stage->mapTo(this, QPoint()), m_stage->size()));
-        updateStatusCanvas();
+        showCanvas();
     });
-    connect(&m_project, &Project::canvasSizeChanged, this, &ContentView::updateStatusCanvas);
-    updateStatusCanvas();
-}
-
-void ContentView::wireLiveBackdrop()
-{
-    connect(&m_live, &LiveBackdrop::permissionMissingChanged, m_stage,
-            [this] { m_stage->setPermissionMissing(m_live.permissionMissing()); });
-    const ScreenRecordingPrompt &prompt = m_stage->prompt();
-    connect(&prompt, &ScreenRecordingPrompt::settingsRequested, &m_live.stream(),
-            &ScreenStream::openScreenRecordingSettings);
-    connect(&prompt, &ScreenRecordingPrompt::retryRequested, &m_live, &LiveBackdrop::tryAgain);
+    connect(&m_project, &Project::canvasSizeChanged, this, showCanvas);
+    showCanvas();
 }
 
 void ContentView::wireLiveRun()
 {
+    connect(&m_liveRun, &LiveRunController::reported, &m_statusLine, &StatusLine::setMessage);
     connect(&m_liveRun, &LiveRunController::aboutToRun, &m_fieldEditing,
             &FieldEditing::commitOpenGesture);
-    connect(&m_liveRun, &LiveRunController::missingChanged, this, &ContentView::takeTurns);
     connect(&m_liveRun, &LiveRunController::liveCountdownChanged, this, [this] {
         const QStringList apps = StepList::distinctSwitchApps(m_project.steps());
         m_overlay->setCountdown(m_liveRun.liveCountdown(), apps.value(0));
@@ -203,23 +131,12 @@ void ContentView::wireLiveRun()
 
 void ContentView::wireRecordActions()
 {
+    connect(&m_recordActions, &RecordActionsController::reported, &m_statusLine,
+            &StatusLine::setMessage);
     connect(&m_recordActions, &RecordActionsController::aboutToRecord, &m_fieldEditing,
             &FieldEditing::commitOpenGesture);
-    connect(&m_recordActions, &RecordActionsController::missingChanged, this,
-            &ContentView::takeTurns);
     connect(&m_recordActions, &RecordActionsController::movieRecorded, this,
             [this] { m_backdrop.setShowRecording(true); });
-}
-
-// All three hear Esc and take the pointer or the keyboard: one at a time.
-void ContentView::takeTurns()
-{
-    const QString running = m_liveRun.isBusy() ? m_liveRun.missing() : QString();
-    const QString recording =
-        m_recordActions.isBusy() ? tr("Actions are being recorded.") : QString();
-    m_liveRun.hold(recording);
-    m_recordActions.hold(running);
-    m_pickLocation.hold(running.isEmpty() ? recording : running);
 }
 
 void ContentView::wireRecording()
@@ -239,11 +156,6 @@ void ContentView::wireRecording()
     connect(&m_backdrop, &BackdropController::frozenChanged, this, showScrubBar);
     showScrubBar();
     m_scrubBar->alignWith(m_transport->timeLabel());
-}
-
-void ContentView::updateStatusCanvas()
-{
-    m_statusView->setCanvas(m_project.canvasSize(), m_preview->scale());
 }
 
 FocusedActions &ContentView::menuActions()
@@ -279,37 +191,7 @@ void ContentView::hideEvent(QHideEvent *event)
 void ContentView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    condense();
-}
-
-void ContentView::condense()
-{
-    const Condensing room = Condensing::of(width(), height());
-    if (room == m_condensing)
-        return;
-    m_condensing = room;
-    m_toolBar->setIconOnly(room.iconBackdrops, room.iconRunOptions);
-    m_steps->setAddMenu(room.addMenu);
-    m_steps->setPadding(room.padding);
-    m_inspector->setPadding(room.padding);
-    m_inspector->setLabelColumn(room.labelColumn);
-    m_preview->setMargin(room.stageMargin);
-    sizePanes();
-}
-
-void ContentView::sizePanes()
-{
-    const Condensing room = Condensing::of(width(), height());
-    const int sidebar = m_userWidths.sidebar > 0 ? m_userWidths.sidebar : room.sidebarWidth;
-    const int inspector = m_userWidths.inspector > 0 ? m_userWidths.inspector : room.inspectorWidth;
-    m_outer->setSizes({sidebar, width() - sidebar});
-    m_inner->setSizes({width() - sidebar - inspector, inspector});
-}
-
-void ContentView::restorePaneWidths(PaneWidths widths)
-{
-    m_userWidths = widths;
-    sizePanes();
+    m_panes->fit();
 }
 
 } // namespace velvane

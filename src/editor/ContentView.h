@@ -1,45 +1,28 @@
 #pragma once
 
-#include "capture/RecordActionsController.h"
 #include "capture/RunSettings.h"
-#include "editor/AppCatalog.h"
 #include "editor/BackdropController.h"
 #include "editor/CanvasController.h"
-#include "editor/Condensing.h"
 #include "editor/ExportController.h"
 #include "editor/FieldEditing.h"
+#include "editor/InputTurns.h"
 #include "editor/LiveBackdrop.h"
-#include "editor/PickLocationController.h"
+#include "editor/PaneLayout.h"
 #include "editor/PreviewTimeline.h"
 #include "editor/RecordingBackdrop.h"
 #include "editor/Selection.h"
 #include "editor/StatusLine.h"
 #include "editor/StepClipboard.h"
-#include "live/LiveRunController.h"
 
 #include <QWidget>
 
-class QSplitter;
-
 namespace velvane {
 
-class EditorToolBar;
+class AppCatalog;
 class FocusedActions;
-class InspectorPane;
 class LiveOverlay;
 class MenuActionsPublisher;
 class PreviewCanvas;
-class StagePane;
-class StatusLineView;
-class StepListPane;
-class TransportBar;
-class VideoScrubBar;
-
-/// Widths that the user gave the panes, logical pixels; 0 where the window's size decides.
-struct PaneWidths {
-    int sidebar = 0;
-    int inspector = 0;
-};
 
 /// The editor of one demo: builds the panes and the controllers, and wires them. It decides
 /// nothing; each operation has one home:
@@ -65,7 +48,7 @@ class ContentView : public QWidget {
     Q_OBJECT
 public:
     /// Borrows all it is given. Undo entries go to the project's undo stack.
-    ContentView(Project &project, Desktop &desktop, RunSettings &settings,
+    ContentView(Project &project, Desktop &desktop, RunSettings &settings, AppCatalog &apps,
                 QWidget *parent = nullptr);
     ~ContentView() override;
 
@@ -90,11 +73,7 @@ public:
     StepListPane &stepListPane() { return *m_steps; }
     InspectorPane &inspectorPane() { return *m_inspector; }
     PreviewCanvas &previewCanvas() { return *m_preview; }
-
-    PaneWidths paneWidths() const { return m_userWidths; }
-    void restorePaneWidths(PaneWidths widths);
-
-    QSize minimumSizeHint() const override { return {960, 600}; }
+    PaneLayout &panes() { return *m_panes; }
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -103,17 +82,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void layOut();
-    void wireMessages();
     void wireStage();
-    void wireLiveBackdrop();
     void wireLiveRun();
     void wireRecordActions();
-    void takeTurns();
     void wireRecording();
-    void condense();
-    void sizePanes();
-    void updateStatusCanvas();
 
     Project &m_project;
     RunSettings &m_runSettings;
@@ -123,16 +95,15 @@ private:
     FieldEditing m_fieldEditing;
     Playback m_playback;
     PreviewTimeline m_timeline;
-    AppCatalog m_catalog;
     LiveRunController m_liveRun;
     RecordActionsController m_recordActions;
     BackdropController m_backdrop;
     LiveBackdrop m_live;
     RecordingBackdrop m_recording;
     PickLocationController m_pickLocation;
+    InputTurns m_turns;
     CanvasController m_canvas;
     ExportController m_export;
-
     StepListPane *m_steps;
     EditorToolBar *m_toolBar;
     PreviewCanvas *m_preview;
@@ -142,11 +113,8 @@ private:
     StatusLineView *m_statusView;
     VideoScrubBar *m_scrubBar;
     LiveOverlay *m_overlay;
+    PaneLayout *m_panes;
     std::unique_ptr<MenuActionsPublisher> m_menuActions;
-    QSplitter *m_outer = nullptr;
-    QSplitter *m_inner = nullptr;
-    std::optional<Condensing> m_condensing;
-    PaneWidths m_userWidths;
 };
 
 } // namespace velvane

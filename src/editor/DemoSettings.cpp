@@ -21,12 +21,12 @@ QString translated(const char *text)
     return QCoreApplication::translate("DemoSettings", text);
 }
 
-double side(double value)
-{
-    return std::clamp(std::round(value), DemoSettings::minSide, DemoSettings::maxSide);
-}
-
 } // namespace
+
+double DemoSettings::side(double value)
+{
+    return std::clamp(std::round(value), minSide, maxSide);
+}
 
 void DemoSettings::setCanvasSize(Project &project, QSizeF size)
 {
@@ -44,18 +44,6 @@ bool DemoSettings::matchScreen(Project &project, Screens &screens)
         return false;
     setCanvasSize(project, display->frame.size());
     return true;
-}
-
-void DemoSettings::setFps(Project &project, int fps)
-{
-    project.edit(translated("Change Frame Rate"),
-                 [&] { project.setFps(std::clamp(fps, minFps, maxFps)); });
-}
-
-void DemoSettings::setStartPoint(Project &project, QPointF point)
-{
-    if (std::isfinite(point.x()) && std::isfinite(point.y()))
-        project.edit(translated("Move Start"), [&] { project.setStartPoint(point); });
 }
 
 std::optional<QString> DemoSettings::setBackdrop(Project &project, const QString &file)

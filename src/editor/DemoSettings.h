@@ -16,14 +16,13 @@ inline constexpr double maxSide = 16384;
 inline constexpr int minFps = 1;
 inline constexpr int maxFps = 240;
 
-/// In whole pixels: "Change Canvas".
+/// The canvas side nearest to this, in whole pixels and within the limits.
+double side(double value);
+
+/// "Change Canvas".
 void setCanvasSize(Project &project, QSizeF size);
 /// Makes the canvas as large as the primary display, in points. False when there is none.
 bool matchScreen(Project &project, Screens &screens);
-/// "Change Frame Rate".
-void setFps(Project &project, int fps);
-/// In canvas coordinates: "Move Start".
-void setStartPoint(Project &project, QPointF point);
 
 /// Makes a picture file the backdrop: "Set Backdrop". Returns why it cannot be read, in one
 /// sentence, or nothing.

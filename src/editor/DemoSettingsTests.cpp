@@ -71,24 +71,6 @@ TEST_F(DemoSettingsTest, WithoutADisplayThereIsNothingToMatch)
     EXPECT_EQ(undo.count(), 0);
 }
 
-TEST_F(DemoSettingsTest, TheFrameRateStaysWithinItsLimits)
-{
-    DemoSettings::setFps(project, 30);
-    EXPECT_EQ(project.fps(), 30);
-    EXPECT_EQ(undo.undoText(), "Change Frame Rate");
-    DemoSettings::setFps(project, -1);
-    EXPECT_EQ(project.fps(), 1);
-    DemoSettings::setFps(project, 100000);
-    EXPECT_EQ(project.fps(), 240);
-}
-
-TEST_F(DemoSettingsTest, TheStartPointMoves)
-{
-    DemoSettings::setStartPoint(project, {12.5, -3});
-    EXPECT_EQ(project.startPoint(), QPointF(12.5, -3));
-    EXPECT_EQ(undo.undoText(), "Move Start");
-}
-
 TEST_F(DemoSettingsTest, APictureFileBecomesTheBackdrop)
 {
     const QString file = folder.filePath("red.png");

@@ -2,6 +2,7 @@
 
 #include "editor/ContentView.h"
 #include "editor/FocusedActions.h"
+#include "editor/MenuText.h"
 #include "editor/TextFieldState.h"
 
 #include <QApplication>
@@ -14,10 +15,7 @@ namespace {
 /// "Undo", or "Undo Add Click".
 QString named(const QString &verb, const QString &edit)
 {
-    // Names of edits underline nothing.
-    return edit.isEmpty() ? verb
-                          : verb + QLatin1Char(' ')
-                                + QString(edit).replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return edit.isEmpty() ? verb : verb + QLatin1Char(' ') + MenuText::escaped(edit);
 }
 
 } // namespace

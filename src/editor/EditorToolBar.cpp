@@ -5,11 +5,11 @@
 #include "editor/MenuText.h"
 #include "editor/Metrics.h"
 #include "editor/SegmentBar.h"
+#include "editor/SymbolMenu.h"
 #include "model/StepList.h"
 
 #include <QActionGroup>
 #include <QHBoxLayout>
-#include <QMenu>
 
 namespace velvane {
 
@@ -110,7 +110,7 @@ void EditorToolBar::addRunOptions()
     m_runOptions->setToolTip(tr("Run options"));
     layout()->addWidget(m_runOptions);
 
-    auto *menu = new QMenu(m_runOptions);
+    auto *menu = new SymbolMenu({}, m_runOptions, true);
     // They say why an option cannot be chosen.
     menu->setToolTipsVisible(true);
     m_runOptions->setMenu(menu);
@@ -131,17 +131,18 @@ void EditorToolBar::addRecordingModes(QMenu &menu)
 {
     MenuText::addHeader(menu, tr("Recording mode"));
     m_modes = new QActionGroup(this);
-    const auto add = [&](const QString &text, RecordMode mode) {
-        QAction *action = menu.addAction(text);
+    const auto add = [&](const QString &symbol, const QString &text, RecordMode mode) {
+        QAction *action = menu.addAction(Icons::icon(symbol), text);
+        action->setProperty("symbol", symbol);
         action->setCheckable(true);
         action->setData(int(mode));
         m_modes->addAction(action);
         connect(action, &QAction::triggered, this,
                 [this, mode] { m_settings.setRecordMode(mode); });
     };
-    add(tr("Don't record"), RecordMode::off);
-    add(tr("Record screen"), RecordMode::screen);
-    add(tr("Record active window"), RecordMode::window);
+    add(QStringLiteral("video.slash"), tr("Don't record"), RecordMode::off);
+    add(QStringLiteral("video"), tr("Record screen"), RecordMode::screen);
+    add(QStringLiteral("macwindow"), tr("Record active window"), RecordMode::window);
     m_windowNote = MenuText::addNote(menu, tr("Active window needs a single-app flow"));
 }
 

@@ -129,6 +129,19 @@ TEST_F(EditorToolBarTest, RunOptionsAreKept)
     EXPECT_FALSE(option("Don't record").isChecked());
 }
 
+TEST_F(EditorToolBarTest, EachRecordingModeHasItsSymbol)
+{
+    open({});
+    const auto symbol = [this](const char *text) {
+        const QAction &mode = option(text);
+        EXPECT_FALSE(mode.icon().isNull());
+        return mode.property("symbol").toString();
+    };
+    EXPECT_EQ(symbol("Don't record"), "video.slash");
+    EXPECT_EQ(symbol("Record screen"), "video");
+    EXPECT_EQ(symbol("Record active window"), "macwindow");
+}
+
 TEST_F(EditorToolBarTest, RunOptionsNameTheRecordingMode)
 {
     open({});

@@ -20,11 +20,6 @@ bool isOfDemo(Kind kind)
     return kind >= Kind::canvasWidth;
 }
 
-double side(double value)
-{
-    return std::clamp(std::round(value), DemoSettings::minSide, DemoSettings::maxSide);
-}
-
 int rate(double value)
 {
     return static_cast<int>(
@@ -57,10 +52,10 @@ void write(Project &project, Kind kind, double value)
     const QPointF start = project.startPoint();
     switch (kind) {
     case Kind::canvasWidth:
-        project.setCanvasSize({side(value), canvas.height()});
+        project.setCanvasSize({DemoSettings::side(value), canvas.height()});
         break;
     case Kind::canvasHeight:
-        project.setCanvasSize({canvas.width(), side(value)});
+        project.setCanvasSize({canvas.width(), DemoSettings::side(value)});
         break;
     case Kind::fps:
         project.setFps(rate(value));

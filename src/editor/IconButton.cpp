@@ -1,6 +1,7 @@
 #include "editor/IconButton.h"
 
 #include "editor/Icons.h"
+#include "editor/MenuText.h"
 #include "editor/Metrics.h"
 #include "editor/Theme.h"
 
@@ -30,7 +31,7 @@ IconButton::IconButton(QWidget *parent) : QPushButton(parent)
 void IconButton::setLabel(const QString &label)
 {
     m_label = label;
-    setText(QString(label).replace(QLatin1Char('&'), QStringLiteral("&&")));
+    setText(MenuText::escaped(label));
     setAccessibleName(label);
     updateGeometry();
     update();

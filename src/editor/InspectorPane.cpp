@@ -74,6 +74,8 @@ QWidget *InspectorPane::makePage(QWidget *header, QWidget *form, QWidget *footer
     column->addWidget(header);
     auto *body = new QWidget(page);
     auto *bodyColumn = new QVBoxLayout(body);
+    bodyColumn->setSpacing(0);
+    bodyColumn->addSpacing(Metrics::gap);
     bodyColumn->addWidget(form);
     bodyColumn->addStretch();
     m_padded << body;

@@ -164,7 +164,7 @@ TEST_F(MenuActionsPublisherTest, RecordingChoicesReachEveryOpenEditorAtOnce)
 {
     open({});
     Project otherProject;
-    ContentView other(otherProject, desktop, settings);
+    ContentView other(otherProject, desktop, settings, apps);
     const auto &inOther = other.menuActions().menuActions();
     actions().setRecordMode(RecordMode::screen);
     EXPECT_EQ(stored.value("recordMode"), "screen");

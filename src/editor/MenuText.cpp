@@ -26,6 +26,11 @@ QAction *add(QMenu &menu, const QString &text, QMargins margins)
 
 } // namespace
 
+QString escaped(QString name)
+{
+    return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
 QAction *addHeader(QMenu &menu, const QString &title)
 {
     return add(menu, title, {8, 5, 8, 3});

@@ -7,8 +7,11 @@ class QMenu;
 
 namespace velvane {
 
-/// Small texts in menus that cannot be chosen.
+/// Texts in menus, and small ones that cannot be chosen.
 namespace MenuText {
+
+/// A name as it stands in a menu or on a button: its "&" underlines nothing.
+QString escaped(QString name);
 
 /// The title of the items that follow.
 QAction *addHeader(QMenu &menu, const QString &title);

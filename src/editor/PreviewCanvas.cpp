@@ -1,13 +1,11 @@
 #include "editor/PreviewCanvas.h"
 
 #include "editor/CanvasHint.h"
-#include "editor/DroppedPicture.h"
+#include "editor/PictureDrop.h"
 #include "editor/PreviewCanvasAccessible.h"
 #include "editor/Theme.h"
 #include "model/StepList.h"
 
-#include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -25,13 +23,13 @@ PreviewCanvas::PreviewCanvas(Project &project, Playback &playback, PreviewTimeli
     , m_controller(controller)
     , m_gesture(controller)
     , m_hint(new CanvasHint(this))
+    , m_drop(new PictureDrop(*this))
 {
     // Before the name, whose change already makes the object that a screen reader keeps.
     PreviewCanvasAccessible::install();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
-    setAcceptDrops(true);
     setAccessibleName(tr("Preview canvas"));
     setAccessibleDescription(tr("Click to drop a Move waypoint or to set the selected target. "
                                 "The arrow keys nudge it, Z magnifies."));
@@ -183,7 +181,7 @@ void PreviewCanvas::paintEvent(QPaintEvent *event)
     repaintChanges(event->region());
     QPainter painter(this);
     m_scene.paint(painter, event->region());
-    if (hasFocus() || m_isDropTarget)
+    if (hasFocus() || m_drop->isOver())
         m_scene.paintRing(painter);
 }
 
@@ -273,31 +271,6 @@ void PreviewCanvas::focusOutEvent(QFocusEvent *)
 {
     m_controller.endNudges();
     update();
-}
-
-void PreviewCanvas::dragEnterEvent(QDragEnterEvent *event)
-{
-    m_isDropTarget = DroppedPicture::isIn(*event->mimeData());
-    event->setAccepted(m_isDropTarget);
-    update();
-}
-
-void PreviewCanvas::dragLeaveEvent(QDragLeaveEvent *)
-{
-    m_isDropTarget = false;
-    update();
-}
-
-void PreviewCanvas::dropEvent(QDropEvent *event)
-{
-    m_isDropTarget = false;
-    update();
-    event->acceptProposedAction();
-    const QString file = DroppedPicture::file(*event->mimeData());
-    if (!file.isEmpty())
-        Q_EMIT fileDropped(file);
-    else
-        Q_EMIT pictureDropped(qvariant_cast<QImage>(event->mimeData()->imageData()));
 }
 
 } // namespace velvane

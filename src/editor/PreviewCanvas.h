@@ -10,6 +10,7 @@
 namespace velvane {
 
 class CanvasHint;
+class PictureDrop;
 
 /// The demo on the stage: its backdrop, the cursor's path with numbered markers, and, while the
 /// preview is not at its start, the frame's cursor. Clicks, drags, keys and the wheel go to the
@@ -34,6 +35,8 @@ public:
 
     /// What an empty demo shows.
     CanvasHint &hint() { return *m_hint; }
+    /// The pictures that are dropped on the stage.
+    PictureDrop &drop() { return *m_drop; }
 
     /// Where the whole canvas lies; beyond the widget while magnified.
     QRectF canvasRect() const;
@@ -51,9 +54,6 @@ public:
 Q_SIGNALS:
     /// canvasRect() or scale() may have changed.
     void placeChanged();
-    /// A file, or the pixels of a picture, were dropped on the stage.
-    void fileDropped(const QString &path);
-    void pictureDropped(const QImage &picture);
 
 protected:
     bool event(QEvent *event) override;
@@ -68,9 +68,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dragLeaveEvent(QDragLeaveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private:
     void follow();
@@ -96,11 +93,11 @@ private:
     CanvasGesture m_gesture;
     CanvasScene m_scene;
     CanvasHint *m_hint;
+    PictureDrop *m_drop;
     QImage m_picture;
     int m_margin = 20;
     bool m_isCovered = false;
     bool m_isStale = true;
-    bool m_isDropTarget = false;
 };
 
 } // namespace velvane

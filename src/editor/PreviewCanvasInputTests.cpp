@@ -247,45 +247,4 @@ TEST(PreviewCanvasInput, ThePointersShapeTellsWhatAPressWouldDo)
     EXPECT_EQ(stage.canvas.cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST(PreviewCanvasInput, DroppedPictureFilesAreReported)
-{
-    CanvasStage stage;
-    const QSignalSpy files(&stage.canvas, &PreviewCanvas::fileDropped);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile("/home/me/notes.txt"),
-                  QUrl::fromLocalFile("/home/me/screen shot.PNG")});
-    QDragEnterEvent enter({500, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&stage.canvas, &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop({500, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&stage.canvas, &drop);
-    ASSERT_EQ(files.size(), 1);
-    EXPECT_EQ(files[0][0].toString(), "/home/me/screen shot.PNG");
-}
-
-TEST(PreviewCanvasInput, DroppedPixelsAreReported)
-{
-    CanvasStage stage;
-    const QSignalSpy pictures(&stage.canvas, &PreviewCanvas::pictureDropped);
-    QMimeData data;
-    data.setImageData(blank({8, 6}, Qt::red));
-    QDragEnterEvent enter({500, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&stage.canvas, &enter);
-    QDropEvent drop({500, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&stage.canvas, &drop);
-    ASSERT_EQ(pictures.size(), 1);
-    EXPECT_EQ(pictures[0][0].value<QImage>().size(), QSize(8, 6));
-}
-
-TEST(PreviewCanvasInput, OtherFilesAreNotTaken)
-{
-    CanvasStage stage;
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile("/home/me/tour.velvane")});
-    QDragEnterEvent enter({500, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QApplication::sendEvent(&stage.canvas, &enter);
-    EXPECT_FALSE(enter.isAccepted());
-}
-
 } // namespace velvane

@@ -4,6 +4,7 @@
 #include "editor/BackdropController.h"
 #include "editor/CanvasHint.h"
 #include "editor/Controls.h"
+#include "editor/LiveBackdrop.h"
 #include "editor/PreviewCanvas.h"
 #include "editor/ScreenRecordingPrompt.h"
 
@@ -52,6 +53,15 @@ void StagePane::offerRecording(RecordActionsController &record)
     };
     connect(&record, &RecordActionsController::missingChanged, this, showMissing);
     showMissing();
+}
+
+void StagePane::askForPermission(LiveBackdrop &live)
+{
+    connect(&live, &LiveBackdrop::permissionMissingChanged, this,
+            [this, &live] { setPermissionMissing(live.permissionMissing()); });
+    connect(m_prompt, &ScreenRecordingPrompt::settingsRequested, &live.stream(),
+            &ScreenStream::openScreenRecordingSettings);
+    connect(m_prompt, &ScreenRecordingPrompt::retryRequested, &live, &LiveBackdrop::tryAgain);
 }
 
 void StagePane::setPermissionMissing(bool missing)

@@ -5,6 +5,7 @@
 namespace velvane {
 
 class BackdropController;
+class LiveBackdrop;
 class PreviewCanvas;
 class RecordActionsController;
 class ScreenRecordingPrompt;
@@ -21,7 +22,8 @@ public:
     ScreenRecordingPrompt &prompt() { return *m_prompt; }
     /// Lets an empty demo begin with a recording.
     void offerRecording(RecordActionsController &record);
-    /// Is the live screen wanted but not permitted?
+    /// Shows the prompt while the live screen is wanted but not permitted.
+    void askForPermission(LiveBackdrop &live);
     void setPermissionMissing(bool missing);
 
     QSize minimumSizeHint() const override;

@@ -65,6 +65,22 @@ TEST_F(StepListPaneTest, ASelectionFromElsewhereShowsInTheList)
     EXPECT_TRUE(list().selectionModel()->isSelected(row(3)));
 }
 
+// A selection model takes time in the square of its stretches: of thousands of copies, seconds.
+TEST_F(StepListPaneTest, CopiesOfManyStepsAreSelectedInOneStretch)
+{
+    open(QList<Step>(40, stepOf(StepKind::click)));
+    QList<Step> steps = project.steps();
+    for (Step &step : steps)
+        step.id = QUuid::createUuid();
+    project.setSteps(steps);
+    view->selection().selectAll();
+    view->clipboard().duplicate();
+    const QItemSelection selected = list().selectionModel()->selection();
+    ASSERT_EQ(selected.size(), 1);
+    EXPECT_EQ(selected.first().top(), 40);
+    EXPECT_EQ(selected.first().bottom(), 79);
+}
+
 TEST_F(StepListPaneTest, ArrowsMoveTheSelection)
 {
     openSections();

@@ -120,18 +120,10 @@ void StepListView::showSelection()
     if (m_following)
         return;
     const QScopedValueRollback guard(m_following, true);
-    QItemSelection selected;
-    int current = -1;
-    for (const QUuid &id : m_selection.targets()) {
-        const int row = m_model.rowOf(id);
-        if (row < 0)
-            continue;
-        const QModelIndex index = m_model.index(row);
-        selected.select(index, index);
-    }
-    if (const auto id = m_project.selection())
-        current = m_model.rowOf(*id);
-    selectionModel()->select(selected, QItemSelectionModel::ClearAndSelect);
+    const auto id = m_project.selection();
+    const int current = id ? m_model.rowOf(*id) : -1;
+    selectionModel()->select(m_model.rowsOf(m_selection.targets()),
+                             QItemSelectionModel::ClearAndSelect);
     if (current >= 0 && current != currentIndex().row()) {
         selectionModel()->setCurrentIndex(m_model.index(current), QItemSelectionModel::NoUpdate);
         scrollTo(m_model.index(current));

@@ -35,8 +35,9 @@ void SymbolMenu::paintEvent(QPaintEvent *event)
         const QRectF row = actionGeometry(action);
         const QColor &color = action->isEnabled() ? colors.text : colors.disabled;
         if (m_checks && action->isChecked())
-            Icons::draw(painter, QStringLiteral("checkmark"), color,
-                        QRectF(row.left() + checkLeft, row.top(), checkSize, row.height()),
+            Icons::draw(painter,
+                        action->actionGroup() ? QStringLiteral("dot") : QStringLiteral("checkmark"),
+                        color, QRectF(row.left() + checkLeft, row.top(), checkSize, row.height()),
                         checkSize);
         if (action->menu())
             Icons::draw(painter, QStringLiteral("chevron.right"),

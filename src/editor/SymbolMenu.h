@@ -4,8 +4,8 @@
 
 namespace velvane {
 
-/// A menu whose items have symbols: a check stands beside the symbol, and a chevron shows that an
-/// item opens a menu.
+/// A menu whose items have symbols: beside the symbol stands a check, or a dot at the chosen one of
+/// a group, and a chevron shows that an item opens a menu.
 class SymbolMenu : public QMenu {
     Q_OBJECT
 public:

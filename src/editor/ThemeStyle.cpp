@@ -81,8 +81,10 @@ QCheckBox::indicator:disabled { background: @button; border-color: @hairline; }
 )");
 
 const auto surfaces = QStringLiteral(R"(
-QMenuBar { background: @window; color: @text; }
-QMenuBar::item { background: transparent; padding: 4px 8px; min-height: 18px; border-radius: 5px; }
+QMenuBar {
+    background: @window; color: @text; border-bottom: 1px solid @hairline; padding: 1px 0px;
+}
+QMenuBar::item { background: transparent; padding: 4px 8px 5px 8px; border-radius: 5px; }
 QMenuBar::item:selected, QMenuBar::item:pressed { background: @selection; }
 QMenuBar::item:disabled { color: @disabled; }
 QMenu {

@@ -33,13 +33,18 @@ void Ticker::stop()
     m_timer.stop();
 }
 
+Seconds Ticker::next(Seconds deadline, Seconds interval, Seconds now)
+{
+    deadline += interval;
+    if (deadline < now)
+        deadline += interval * std::floor((now - deadline) / interval);
+    return deadline;
+}
+
 void Ticker::arm()
 {
     const Seconds time = now();
-    m_deadline += m_interval;
-    // Late by whole intervals: drop those deadlines and keep to the grid.
-    if (m_deadline < time)
-        m_deadline += m_interval * std::floor((time - m_deadline) / m_interval);
+    m_deadline = next(m_deadline, m_interval, time);
     const Seconds rest = std::max(m_deadline - time, Seconds(0));
     m_timer.start(std::chrono::ceil<std::chrono::milliseconds>(rest));
 }

@@ -23,6 +23,10 @@ public:
     void stop();
     bool isRunning() const { return m_timer.isActive(); }
 
+    /// The deadline after this one. At `now` those that have passed by then are dropped but for the
+    /// last, which is due at once; all lie whole intervals apart.
+    static Seconds next(Seconds deadline, Seconds interval, Seconds now);
+
 Q_SIGNALS:
     void ticked();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/AppCatalog.h"
 #include "editor/ContentView.h"
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
@@ -28,7 +29,7 @@ struct EditorFixture : testing::Test {
     ContentView &open(const QList<Step> &steps, QSize size = {1440, 900})
     {
         project.setSteps(steps);
-        view = std::make_unique<ContentView>(project, desktop, settings);
+        view = std::make_unique<ContentView>(project, desktop, settings, apps);
         view->resize(size);
         view->show();
         QCoreApplication::processEvents();
@@ -50,6 +51,7 @@ struct EditorFixture : testing::Test {
     QTemporaryDir folder;
     QSettings stored{folder.filePath("settings.ini"), QSettings::IniFormat};
     RunSettings settings{stored};
+    AppCatalog apps{desktop.apps()};
     QUndoStack undo;
     Project project;
     std::unique_ptr<ContentView> view;
