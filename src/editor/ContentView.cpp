@@ -159,6 +159,8 @@ void ContentView::wireMessages()
     connect(&m_liveRun, &LiveRunController::reported, &m_statusLine, &StatusLine::setMessage);
     connect(&m_recordActions, &RecordActionsController::reported, &m_statusLine,
             &StatusLine::setMessage);
+    connect(&m_recordActions, &RecordActionsController::movieEnded, &m_statusLine,
+            &StatusLine::addMessage);
 }
 
 void ContentView::wireStage()
