@@ -148,6 +148,11 @@ die als H.264-Film gerendert oder auf dem echten Bildschirm ausgeführt wird.</t
         <translation>Die Sprache aller Texte, z. B. de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Optionen</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -853,7 +858,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Aufnahme angehalten: %1</translation>
     </message>
     <message>
@@ -2247,11 +2252,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Unterbefehle</translation>
     </message>
     <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Optionen</translation>
-    </message>
-    <message>
         <source>Print this help message and exit</source>
         <extracomment>cli</extracomment>
         <translation>Diese Hilfe ausgeben und beenden</translation>
@@ -2302,6 +2302,11 @@ BEISPIEL
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>Der Bildschirm (%1) ist größer als die Leinwand (%2): Was jenseits liegt, wird an ihrem Rand aufgenommen.</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1; die aufgenommenen Schritte liegen in %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

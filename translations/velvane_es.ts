@@ -148,6 +148,11 @@ convierte en una película H.264 o se ejecuta en el escritorio real.</translatio
         <translation>El idioma de todos los textos, p. ej., de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Opciones</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -853,7 +858,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Grabación detenida: %1</translation>
     </message>
     <message>
@@ -2247,11 +2252,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Subcomandos</translation>
     </message>
     <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Opciones</translation>
-    </message>
-    <message>
         <source>Print this help message and exit</source>
         <extracomment>cli</extracomment>
         <translation>Mostrar esta ayuda y salir</translation>
@@ -2302,6 +2302,11 @@ EJEMPLO
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>La pantalla (%1) es más grande que el lienzo (%2): lo que queda más allá se graba en su borde.</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1; los pasos grabados están en %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

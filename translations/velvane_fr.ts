@@ -148,6 +148,11 @@ film H.264 ou exécutée sur le vrai bureau.</translation>
         <translation>La langue de tous les textes, p. ex. de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>Options</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -853,7 +858,7 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Enregistrement arrêté : %1</translation>
     </message>
     <message>
@@ -2247,11 +2252,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Sous-commandes</translation>
     </message>
     <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>Options</translation>
-    </message>
-    <message>
         <source>Print this help message and exit</source>
         <extracomment>cli</extracomment>
         <translation>Afficher cette aide et quitter</translation>
@@ -2302,6 +2302,11 @@ EXEMPLE
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>L’écran (%1) est plus grand que le canevas (%2) : ce qui est au-delà est enregistré à son bord.</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1 ; les étapes enregistrées sont dans %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

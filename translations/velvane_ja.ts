@@ -148,6 +148,11 @@ H.264 movie or performed on the real desktop.</source>
         <translation>すべてのテキストの言語(例: de)</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>オプション</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -853,7 +858,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>録画を停止しました: %1</translation>
     </message>
     <message>
@@ -2247,11 +2252,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>サブコマンド</translation>
     </message>
     <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>オプション</translation>
-    </message>
-    <message>
         <source>Print this help message and exit</source>
         <extracomment>cli</extracomment>
         <translation>このヘルプを表示して終了</translation>
@@ -2302,6 +2302,11 @@ EXAMPLE
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>画面(%1)がキャンバス(%2)より大きいため、外での操作はその端に記録されます。</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1。記録したステップは%2にあります</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

@@ -147,6 +147,11 @@ H.264 movie or performed on the real desktop.</source>
         <translation>所有文本的语言，例如 de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>选项</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -852,7 +857,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>录制已停止：%1</translation>
     </message>
     <message>
@@ -2246,11 +2251,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>子命令</translation>
     </message>
     <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>选项</translation>
-    </message>
-    <message>
         <source>Print this help message and exit</source>
         <extracomment>cli</extracomment>
         <translation>显示此帮助并退出</translation>
@@ -2300,6 +2300,11 @@ EXAMPLE
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>屏幕 (%1) 大于画布 (%2)：超出部分会记录在画布边缘。</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1；录制的步骤保存在 %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>
