@@ -247,6 +247,17 @@ class Inspector(EditorTest):
         saved = editor.saved_steps()[0]
         self.assertEqual((saved["keyCode"], saved["modifiers"], saved["text"]), (1, CONTROL, "S"))
 
+    def test_caps_lock_adds_nothing_to_a_shortcut(self):
+        editor = self.open(step("shortcut"))
+        editor.click(editor.row("1"))
+        editor.key("Caps_Lock")
+        self.addCleanup(editor.key, "Caps_Lock")
+        editor.click(editor.find("push button", "Shortcut"))
+        editor.key("ctrl+s")
+        editor.wait_rows("1, Press ⌃S")
+        saved = editor.saved_steps()[0]
+        self.assertEqual((saved["keyCode"], saved["modifiers"], saved["text"]), (1, CONTROL, "S"))
+
     def test_a_shortcut_that_stays_down_reaches_no_menu(self):
         subprocess.run(["xset", "r", "rate", "200", "30"], check=True)
         heard = Heard()
