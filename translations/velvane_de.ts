@@ -863,7 +863,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Aufnahme angehalten: %1</translation>
     </message>
     <message>
@@ -2297,6 +2297,11 @@ BEISPIEL
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>Der Bildschirm (%1) ist größer als die Leinwand (%2): Was jenseits liegt, wird an ihrem Rand aufgenommen.</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1; die aufgenommenen Schritte liegen in %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

@@ -863,7 +863,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Grabación detenida: %1</translation>
     </message>
     <message>
@@ -2297,6 +2297,11 @@ EJEMPLO
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>La pantalla (%1) es más grande que el lienzo (%2): lo que queda más allá se graba en su borde.</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1; los pasos grabados están en %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

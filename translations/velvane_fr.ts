@@ -863,7 +863,7 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>Enregistrement arrêté : %1</translation>
     </message>
     <message>
@@ -2297,6 +2297,11 @@ EXEMPLE
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>L’écran (%1) est plus grand que le canevas (%2) : ce qui est au-delà est enregistré à son bord.</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1 ; les étapes enregistrées sont dans %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

@@ -863,7 +863,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>録画を停止しました: %1</translation>
     </message>
     <message>
@@ -2297,6 +2297,11 @@ EXAMPLE
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>画面(%1)がキャンバス(%2)より大きいため、外での操作はその端に記録されます。</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1。記録したステップは%2にあります</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

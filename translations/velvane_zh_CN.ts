@@ -862,7 +862,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <extracomment>LiveRunController</extracomment>
+        <extracomment>LiveRunController, RecordActionsController</extracomment>
         <translation>录制已停止：%1</translation>
     </message>
     <message>
@@ -2295,6 +2295,11 @@ EXAMPLE
         <source>The screen (%1) is larger than the canvas (%2): what lies beyond is recorded at the canvas's edge.</source>
         <extracomment>cli</extracomment>
         <translation>屏幕 (%1) 大于画布 (%2)：超出部分会记录在画布边缘。</translation>
+    </message>
+    <message>
+        <source>%1; the recorded steps are in %2</source>
+        <extracomment>cli</extracomment>
+        <translation>%1；录制的步骤保存在 %2</translation>
     </message>
     <message>
         <source>%1 frames per second</source>

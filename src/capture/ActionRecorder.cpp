@@ -5,6 +5,7 @@ namespace velvane {
 namespace {
 
 constexpr QSize panelSize(360, 52);
+constexpr double panelRadius = 13;
 // How often it is seen whether the pointer rests.
 constexpr auto dwellInterval = std::chrono::milliseconds(80);
 
@@ -28,7 +29,7 @@ bool ActionRecorder::prepare(QSizeF canvas, QPointF startPoint)
     if (!m_tap)
         return false;
     installAppObserver();
-    m_panel = std::make_unique<StatusPanel>(m_desktop.screens(), panelSize);
+    m_panel = std::make_unique<StatusPanel>(m_desktop.screens(), panelSize, panelRadius);
     setPanelText(tr("● Recording — Esc to stop"));
     return true;
 }

@@ -45,7 +45,7 @@ private:
     Desktop &m_desktop;
     std::optional<StepBuilder> m_builder;
     std::unique_ptr<StatusPanel> m_panel;
-    QTimer m_dwellTimer;
+    QTimer m_dwellTimer{this};
     /// Last, so that they end before what they call.
     Token m_appObserver;
     Token m_tap;

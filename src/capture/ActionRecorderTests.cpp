@@ -25,6 +25,8 @@ protected:
         hear(Kind::leftMouseUp, point);
     }
 
+    QTimer &dwellTimer() { return *recorder.findChild<QTimer *>(); }
+
     SimulatedDesktop desktop;
     ActionRecorder recorder{desktop};
 };
@@ -41,6 +43,27 @@ TEST_F(ActionRecorderTest, PreparedItListensAndSaysSoAndRecordsNothing)
     EXPECT_TRUE(recorder.finish().isEmpty());
     EXPECT_EQ(desktop.tap().listeners(), 0);
     EXPECT_EQ(recorder.panelText(), "");
+}
+
+TEST_F(ActionRecorderTest, ATimerLooksForARestingPointerWhileCapturing)
+{
+    ASSERT_TRUE(prepare());
+    EXPECT_FALSE(dwellTimer().isActive());
+    recorder.setCapturing(true);
+    EXPECT_TRUE(dwellTimer().isActive());
+    EXPECT_FALSE(dwellTimer().isSingleShot());
+    EXPECT_EQ(dwellTimer().interval(), 80);
+    hear(Kind::mouseMoved, {100, 100});
+    desktop.clock().advance(0.35s);
+    QMetaObject::invokeMethod(&dwellTimer(), "timeout");
+    recorder.setCapturing(false);
+    EXPECT_FALSE(dwellTimer().isActive());
+    recorder.setCapturing(true);
+    const QList<Step> steps = recorder.finish();
+    EXPECT_FALSE(dwellTimer().isActive());
+    ASSERT_EQ(steps.size(), 1);
+    EXPECT_EQ(steps[0].kind, StepKind::move);
+    EXPECT_EQ(steps[0].point, QPointF(100, 100));
 }
 
 TEST_F(ActionRecorderTest, RefusedItLeavesNothingBehind)

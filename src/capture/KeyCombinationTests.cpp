@@ -63,6 +63,16 @@ TEST(KeyCapture, TheKeypadAndTheThirdLevelAddNoModifier)
     EXPECT_EQ(recorded(press(18, 0x20ac, Qt::GroupSwitchModifier)).modifiers, 0U);
 }
 
+TEST(KeyCapture, CapsLockAndFunctionAddNothing)
+{
+    // All that the server can say is held or locked, of which the toolkit names but Ctrl.
+    constexpr quint32 everything = 0xff;
+    const QKeyEvent event(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier, 46 + 8, 0, everything);
+    EXPECT_EQ(recorded(KeyCapture::pressed(event)).modifiers, 0x40000U);
+    // Function has a number beyond those of the server's keys, where it comes at all.
+    EXPECT_TRUE(std::holds_alternative<KeyCapture::Ignored>(press(464, Qt::Key_unknown)));
+}
+
 TEST(KeyCapture, EscapeCancelsWhateverIsHeld)
 {
     EXPECT_TRUE(std::holds_alternative<KeyCapture::Cancelled>(press(1, Qt::Key_Escape)));

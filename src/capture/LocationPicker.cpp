@@ -10,6 +10,7 @@ namespace {
 
 constexpr auto interval = std::chrono::seconds(1);
 constexpr QSize panelSize(500, 56);
+constexpr double panelRadius = 14;
 
 } // namespace
 
@@ -41,7 +42,7 @@ void LocationPicker::pick(int seconds, std::function<void(QPointF)> onCapture)
 
 void LocationPicker::showPanel()
 {
-    m_panel = std::make_unique<StatusPanel>(m_desktop.screens(), panelSize);
+    m_panel = std::make_unique<StatusPanel>(m_desktop.screens(), panelSize, panelRadius);
 }
 
 void LocationPicker::watchEscape()

@@ -48,6 +48,18 @@ protected:
 
 } // namespace
 
+TEST_F(LocationPickerTest, ThePanelHasItsOwnSizeAndRoundness)
+{
+    const QSize size(500, 56);
+    const StatusPanel wanted(desktop.screens(), size, 14);
+    const StatusPanel lessRound(desktop.screens(), size, 13);
+    pick(1);
+    ASSERT_EQ(panels().size(), 1);
+    EXPECT_EQ(panels().first()->size(), size);
+    EXPECT_EQ(panels().first()->mask(), wanted.mask());
+    EXPECT_NE(wanted.mask(), lessRound.mask());
+}
+
 TEST_F(LocationPickerTest, OneSecondShowsOneAndCapturesAtTheFirstTick)
 {
     desktop.screens().setPointer({30, 40});

@@ -16,6 +16,16 @@ constexpr Seconds eachNumber = 0.7s;
 // How often it is seen whether to stop.
 constexpr Seconds pollInterval = 0.15s;
 
+// The steps with offsets that count from so much earlier.
+QList<Step> countedFromEarlier(QList<Step> steps, Seconds by)
+{
+    for (Step &step : steps) {
+        if (step.recordedOffset)
+            *step.recordedOffset += by;
+    }
+    return steps;
+}
+
 } // namespace
 
 RecordActionsController::RecordActionsController(Project &project, Playback &playback,
@@ -82,8 +92,10 @@ QCoro::Task<> RecordActionsController::record()
     };
     co_await m_stop.countDown(eachNumber, show);
     const std::unique_ptr<RunRecorder> movie = startMovie();
+    // The movie begins before it is open, and steps show where they happened in it.
+    const Seconds ahead = movie ? m_desktop.clock().now() - movie->begun() : 0s;
     co_await capture();
-    const QList<Step> steps = m_recorder->finish();
+    const QList<Step> steps = countedFromEarlier(m_recorder->finish(), ahead);
     m_desktop.shell().unhide();
     if (movie)
         co_await movie->stop();
@@ -107,6 +119,7 @@ bool RecordActionsController::begin()
     Q_EMIT aboutToRecord();
     m_playback.pause();
     m_stop.clear();
+    m_movieEnd.clear();
     m_canvas = m_project.canvasSize();
     if (m_choice == CanvasChoice::matchScreen)
         m_canvas = largerScreen().value_or(m_canvas);
@@ -129,12 +142,15 @@ bool RecordActionsController::prepare()
 
 // Of the whole screen, a pixel for each of the canvas's points. What keeps it from being made is
 // not told: the steps are what was asked for.
-std::unique_ptr<RunRecorder> RecordActionsController::startMovie() const
+std::unique_ptr<RunRecorder> RecordActionsController::startMovie()
 {
     if (m_stop.isMade())
         return {};
     try {
         auto movie = std::make_unique<RunRecorder>(m_desktop);
+        connect(movie.get(), &RunRecorder::ended, this, [this](const QString &reason) {
+            m_movieEnd = tr("Recording stopped: %1").arg(reason);
+        });
         movie->start(RecordScope::screen, {}, false, true);
         return movie;
     } catch (const std::exception &) {
@@ -180,6 +196,8 @@ void RecordActionsController::end(const QString &message)
     m_desktop.shell().activate();
     setBusy(false);
     Q_EMIT reported(message);
+    if (!m_movieEnd.isEmpty())
+        Q_EMIT movieEnded(m_movieEnd);
     Q_EMIT finished();
 }
 

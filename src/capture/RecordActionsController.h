@@ -76,13 +76,15 @@ Q_SIGNALS:
     void missingChanged();
     /// A movie was made alongside, and is the demo's recording now.
     void movieRecorded();
-    /// The recording is over, however it ended; not after a refusal.
+    /// After the report: the movie is not complete to the recording's end, in a sentence.
+    void movieEnded(const QString &message);
+    /// What made us busy is over, however it ended.
     void finished();
 
 private:
     bool begin();
     bool prepare();
-    std::unique_ptr<RunRecorder> startMovie() const;
+    std::unique_ptr<RunRecorder> startMovie();
     QCoro::Task<> capture();
     QString keep(const QList<Step> &steps, const QString &movie);
     void end(const QString &message);
@@ -100,6 +102,8 @@ private:
     QString m_held;
     StopRequest m_stop;
     std::unique_ptr<ActionRecorder> m_recorder;
+    /// What is to be told of a movie that broke off; empty while there is nothing.
+    QString m_movieEnd;
     Outcome m_outcome = Outcome::refused;
     bool m_isBusy = false;
     bool m_isRecording = false;

@@ -6,6 +6,12 @@ namespace velvane {
 
 TEST_F(RecordActionsFixture, ActionsBecomeStepsAfterTheExistingOnesInOneUndoableEdit)
 {
+    Step wait;
+    wait.kind = StepKind::wait;
+    Step other = wait;
+    other.id = QUuid::createUuid();
+    project.setSteps(project.steps() + QList<Step>{wait, other});
+    undo.clear();
     const QList<Step> before = project.steps();
     project.setSelection(before.constFirst().id);
     clickAt(3s);
@@ -14,9 +20,9 @@ TEST_F(RecordActionsFixture, ActionsBecomeStepsAfterTheExistingOnesInOneUndoable
     record();
     ASSERT_EQ(project.steps().size(), before.size() + 2);
     EXPECT_EQ(project.steps().first(before.size()), before);
-    EXPECT_EQ(project.steps()[1].kind, StepKind::click);
-    EXPECT_EQ(project.steps()[1].pauseAfter, 1s);
-    EXPECT_EQ(project.steps()[2].kind, StepKind::shortcut);
+    EXPECT_EQ(project.steps()[3].kind, StepKind::click);
+    EXPECT_EQ(project.steps()[3].pauseAfter, 1s);
+    EXPECT_EQ(project.steps()[4].kind, StepKind::shortcut);
     EXPECT_EQ(project.selection(), project.steps().constLast().id);
     EXPECT_EQ(reported, QStringList({"Recorded 2 steps."}));
     EXPECT_EQ(controller.outcome(), RecordActionsController::Outcome::recorded);
@@ -96,10 +102,14 @@ TEST_F(RecordActionsFixture, EscapeInTheCountdownEndsItWithoutCapturing)
 {
     clickAt(1.25s);
     pressEscapeAt(1.2s);
+    QString panelBefore;
+    at(1.0s, [&] { panelBefore = panelText(); });
     bool captured = false;
     QObject::connect(&controller, &RecordActionsController::isRecordingChanged,
                      [&] { captured = true; });
     record();
+    EXPECT_EQ(panelBefore, "Recording starts in 3…");
+    EXPECT_EQ(panelText(), "") << "the panel has gone";
     EXPECT_FALSE(captured);
     EXPECT_NEAR(now(), 1.25, 0.1);
     EXPECT_EQ(reported, QStringList({"Recording stopped — no actions captured."}));

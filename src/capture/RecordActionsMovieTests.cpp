@@ -22,6 +22,8 @@ struct RecordActionsMovie : RecordActionsFixture {
         const QRectF frame(0, 0, 320, 200);
         desktop.screens().setDisplays({{.name = "small", .frame = frame, .visible = frame}});
         QObject::connect(&controller, &RecordActionsController::movieRecorded, [this] { ++told; });
+        QObject::connect(&controller, &RecordActionsController::movieEnded,
+                         [this](const QString &message) { movieEnds << message; });
         showAt(2.7s, Qt::red);
         showAt(3.5s, Qt::blue);
     }
@@ -40,6 +42,7 @@ struct RecordActionsMovie : RecordActionsFixture {
     }
 
     int told = 0;
+    QStringList movieEnds;
 };
 
 } // namespace
@@ -52,6 +55,7 @@ TEST_F(RecordActionsMovie, TheMovieBecomesTheDemosRecordingInTheSameEdit)
     record();
     EXPECT_EQ(reported, QStringList({"Recorded 1 step with screen recording."}));
     EXPECT_EQ(told, 1);
+    EXPECT_EQ(movieEnds, QStringList());
     ASSERT_TRUE(project.recordingBookmark());
     const auto movie = Bookmark::resolve(*project.recordingBookmark());
     ASSERT_TRUE(movie);
@@ -124,6 +128,18 @@ TEST_F(RecordActionsMovie, ADisplayThatIsTakenAwayKeepsTheStepsAndTheMovieSoFar)
     record();
     EXPECT_EQ(reported, QStringList({"Recorded 2 steps with screen recording."}));
     EXPECT_EQ(movies().size(), 1);
+    EXPECT_EQ(movieEnds, QStringList({"Recording stopped: The display has gone."}));
+}
+
+TEST_F(RecordActionsMovie, OffsetsCountFromTheMoviesBeginningHoweverLongItTakesToOpen)
+{
+    desktop.capture().setOpeningTime(0.25s);
+    clickAt(3.5s);
+    pressEscapeAt(4s);
+    record();
+    ASSERT_EQ(project.steps().size(), 2);
+    // The countdown ends at 2.5 s.
+    EXPECT_NEAR(project.steps()[1].recordedOffset->count(), 1, 1e-9);
 }
 
 TEST_F(RecordActionsMovie, AFolderThatCannotBeMadeCostsOnlyTheMovie)
@@ -155,6 +171,8 @@ TEST_F(RecordActionsMovie, AFullDiskCostsOnlyTheMovie)
     ASSERT_EQ(reported.size(), 1);
     EXPECT_TRUE(reported[0].startsWith("Recorded 2 steps")) << reported[0].toStdString();
     EXPECT_EQ(project.steps().size(), 3);
+    ASSERT_EQ(movieEnds.size(), 1);
+    EXPECT_TRUE(movieEnds[0].startsWith("Recording stopped: ")) << movieEnds[0].toStdString();
 }
 
 } // namespace velvane

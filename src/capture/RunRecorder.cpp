@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QPointer>
 
+#include <mutex>
 #include <stdexcept>
 #include <utility>
 
@@ -50,7 +51,15 @@ struct RunRecorder::Take {
         : movie(std::move(writer), size, begun, std::move(ended))
     {}
 
+    /// Then nothing more comes. Any thread; another's call is waited for.
+    void closeStream()
+    {
+        const std::lock_guard lock(mutex);
+        stream.reset();
+    }
+
     ScreenMovie movie;
+    std::mutex mutex;
     /// Last, so that it ends before what it calls.
     Token stream;
 };
@@ -68,7 +77,7 @@ RunRecorder::~RunRecorder()
 {
     if (!m_take)
         return;
-    m_take->stream.reset();
+    m_take->closeStream();
     m_take->movie.finish(m_desktop.clock().now());
     removeIfEmpty(*m_take);
 }
@@ -107,7 +116,7 @@ void RunRecorder::open(const CaptureRequest &request, QSize size)
     const auto tell = [self](const QString &reason) {
         onMainThread([self, reason] {
             if (self)
-                Q_EMIT self->ended(reason);
+                self->endByItself(reason);
         });
     };
     m_begun = m_desktop.clock().now();
@@ -160,20 +169,28 @@ QCoro::Task<> RunRecorder::stop()
     finish(take, clock.now(), isDone);
     while (!*isDone && clock.now() < deadline)
         co_await clock.delay(glance);
-    if (*isDone)
-        removeIfEmpty(*take);
+    removeIfEmpty(*take);
 }
 
-// The stream first: then nothing more comes.
 QCoro::Task<> RunRecorder::finish(std::shared_ptr<Take> take, Seconds at,
                                   std::shared_ptr<bool> isDone)
 {
     const std::function<void()> work = [take, at] {
-        take->stream.reset();
+        take->closeStream();
         take->movie.finish(at);
     };
     co_await inBackground(work);
     *isDone = true;
+}
+
+// The stream has nobody left to work for. Closing it may take a while.
+void RunRecorder::endByItself(const QString &reason)
+{
+    if (m_take) {
+        const std::function<void()> close = [take = m_take] { take->closeStream(); };
+        inBackground(close);
+    }
+    Q_EMIT ended(reason);
 }
 
 void RunRecorder::removeIfEmpty(const Take &take)

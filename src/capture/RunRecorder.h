@@ -44,7 +44,8 @@ public:
     QString url() const { return m_url; }
     /// Was there no such window, so that the display was recorded?
     bool fellBackToScreen() const { return m_fellBackToScreen; }
-    /// The moment that is the movie's beginning, in Clock::now()'s time.
+    /// The moment that is the movie's beginning, in Clock::now()'s time; before start() returns by
+    /// as long as opening the movie and the stream takes.
     Seconds begun() const { return m_begun; }
 
     /// The largest window on screen, wider than 120 points and higher than 80, of an application
@@ -62,6 +63,7 @@ private:
     std::optional<QRectF> windowRegion(const QString &appName, const Display &display);
     QString makeOutputURL() const;
     void open(const CaptureRequest &request, QSize size);
+    void endByItself(const QString &reason);
     void removeIfEmpty(const Take &take);
     static QCoro::Task<> finish(std::shared_ptr<Take> take, Seconds at,
                                 std::shared_ptr<bool> isDone);

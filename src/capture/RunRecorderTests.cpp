@@ -1,101 +1,17 @@
-#include "capture/RunRecorder.h"
+#include "capture/RunRecorderFixture.h"
 
-#include "base/Background.h"
 #include "capture/Bookmark.h"
-#include "platform/simulated/SimulatedDesktop.h"
-#include "support/Print.h"
-#include "support/RunToEnd.h"
-#include "support/TemporaryHome.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
-
-#include <gtest/gtest.h>
-
-#include <stdexcept>
 
 namespace velvane {
 
 namespace {
 
-/// What was done to a movie, which has no file.
-struct Written {
-    QString path;
-    QSize size;
-    std::vector<Frame> frames{};
-    int finished = 0;
-    /// The next append or finish fails with this.
-    std::string failure{};
-    /// How long finishing takes.
-    Seconds slowness{0};
-};
-
-class NotingWriter final : public MovieWriter {
-public:
-    NotingWriter(Written &written, Clock &clock) : m_written(written), m_clock(clock) {}
-
-    void append(const Frame &frame) override
-    {
-        fail();
-        m_written.frames.push_back({frame.image.copy(), frame.changed, frame.time});
-    }
-    void finish() override
-    {
-        m_clock.sleep(m_written.slowness);
-        ++m_written.finished;
-        fail();
-    }
-
-private:
-    void fail() const
-    {
-        if (!m_written.failure.empty())
-            throw std::runtime_error(m_written.failure);
-    }
-
-    Written &m_written;
-    Clock &m_clock;
-};
-
-/// At most ten seconds of the real time.
-template <typename Condition>
-void waitUntil(Condition holds)
-{
-    const QDeadlineTimer deadline(10'000);
-    while (!holds() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents();
-        QThread::msleep(1);
-    }
-}
-
-class RunRecorderTest : public testing::Test {
+class RunRecorderTest : public RunRecorderFixture {
 protected:
-    RunRecorderTest()
-    {
-        QObject::connect(&recorder, &RunRecorder::ended,
-                         [this](const QString &reason) { ended << reason; });
-    }
-
-    RunRecorder::Making making()
-    {
-        const auto writer = [this](const QString &path, QSize size) {
-            written.path = path;
-            written.size = size;
-            return std::make_unique<NotingWriter>(written, desktop.clock());
-        };
-        return {.writer = writer, .date = [] { return QDateTime({2026, 3, 9}, {7, 5, 2}); }};
-    }
-    /// Notes when it has returned.
-    static QCoro::Task<> stopAndNote(RunRecorder *recorder, Clock *clock,
-                                     std::vector<Seconds> *returned)
-    {
-        co_await recorder->stop();
-        returned->push_back(clock->now());
-    }
     quint64 addWindow(const QString &app, const QRectF &frame, bool onScreen = true)
     {
         WindowInfo window;
@@ -105,12 +21,6 @@ protected:
         window.onScreen = onScreen;
         return desktop.windows().add(window);
     }
-    QString start(RecordScope scope = RecordScope::screen, const QString &app = {},
-                  bool cursor = true, bool pointScaled = false)
-    {
-        return recorder.start(scope, app, cursor, pointScaled);
-    }
-    void stop() { runToEnd(recorder.stop()); }
     QString refusal()
     {
         try {
@@ -119,12 +29,6 @@ protected:
             return QString::fromStdString(error.what());
         }
         return {};
-    }
-    void showAt(Seconds time, const QColor &color, QSize size = {1920, 1080})
-    {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(color);
-        desktop.clock().at(time, [this, image] { desktop.capture().show(image); });
     }
     void setDisplay(QSizeF points, qreal scale)
     {
@@ -135,12 +39,6 @@ protected:
         desktop.screens().setDisplays({display});
     }
     QRectF region() { return desktop.capture().requests().back().region.value_or(QRectF()); }
-
-    TemporaryHome home;
-    SimulatedDesktop desktop;
-    Written written;
-    QStringList ended;
-    RunRecorder recorder{desktop, making()};
 };
 
 } // namespace
@@ -315,122 +213,6 @@ TEST_F(RunRecorderTest, AnotherResolutionIsBroughtToTheMoviesSize)
     EXPECT_EQ(written.frames[1].image.pixelColor(960, 540), QColor(0, 255, 0));
     EXPECT_EQ(written.frames[1].image.pixelColor(10, 540), QColor(Qt::black));
     EXPECT_EQ(written.frames[2].changed, QRegion(0, 0, 1920, 1080));
-}
-
-TEST_F(RunRecorderTest, StopWithoutAStartReturnsAtOnce)
-{
-    stop();
-    EXPECT_EQ(desktop.clock().now(), 0s);
-    EXPECT_EQ(recorder.url(), "");
-}
-
-TEST_F(RunRecorderTest, AfterStopNothingComesAndThePathStays)
-{
-    const QString path = start();
-    showAt(0s, Qt::red);
-    desktop.clock().advance(1s);
-    stop();
-    EXPECT_FALSE(recorder.isRecording());
-    EXPECT_EQ(recorder.url(), path);
-    EXPECT_EQ(desktop.capture().streams(), 0);
-    stop();
-    EXPECT_EQ(written.finished, 1);
-    EXPECT_LE(desktop.clock().now(), 1.1s);
-}
-
-TEST_F(RunRecorderTest, StoppingWaitsNoLongerThanTwoSeconds)
-{
-    written.slowness = 10s;
-    start();
-    showAt(0s, Qt::red);
-    desktop.clock().advance(1s);
-    std::vector<Seconds> returned;
-    const QCoro::Task<> task = stopAndNote(&recorder, &desktop.clock(), &returned);
-    // What completes the movie sleeps for long, and lets time pass.
-    waitUntil([&] { return !returned.empty(); });
-    EXPECT_EQ(returned.size(), 1U);
-    EXPECT_FALSE(recorder.isRecording());
-    waitUntil([] { return !isBackgroundBusy(); });
-    EXPECT_EQ(written.finished, 1);
-}
-
-TEST_F(RunRecorderTest, CompletedAtTheVeryEndOfTheWaitItReturnsOnce)
-{
-    written.slowness = 2s;
-    start();
-    showAt(0s, Qt::red);
-    desktop.clock().advance(1s);
-    std::vector<Seconds> returned;
-    runToEnd(stopAndNote(&recorder, &desktop.clock(), &returned));
-    desktop.clock().advance(10s);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(returned.size(), 1U);
-    EXPECT_EQ(written.finished, 1);
-}
-
-TEST_F(RunRecorderTest, ARecordingWithoutAPictureLeavesNoMovie)
-{
-    RunRecorder real(desktop);
-    const QString path = real.start(RecordScope::screen, {}, true, false);
-    EXPECT_TRUE(QFileInfo::exists(path));
-    runToEnd(real.stop());
-    EXPECT_FALSE(QFileInfo::exists(path));
-    EXPECT_EQ(real.url(), "");
-}
-
-TEST_F(RunRecorderTest, AFailureToWriteEndsItAndIsToldOnce)
-{
-    const QString path = start();
-    showAt(0s, Qt::red);
-    desktop.clock().at(1s, [this] { written.failure = "No space left on device"; });
-    showAt(1s, Qt::green);
-    showAt(2s, Qt::blue);
-    desktop.clock().advance(3s);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ended, QStringList("No space left on device"));
-    EXPECT_EQ(written.frames.size(), 1U);
-    EXPECT_EQ(written.finished, 1);
-    stop();
-    EXPECT_EQ(recorder.url(), path) << "what was written is kept";
-    EXPECT_EQ(written.finished, 1);
-    EXPECT_EQ(ended.size(), 1);
-}
-
-TEST_F(RunRecorderTest, AFailureToCompleteItIsTold)
-{
-    start();
-    showAt(0s, Qt::red);
-    desktop.clock().advance(1s);
-    written.failure = "No space left on device";
-    stop();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ended, QStringList("No space left on device"));
-}
-
-TEST_F(RunRecorderTest, AStreamThatTheSystemEndsCompletesTheMovie)
-{
-    const QString path = start();
-    showAt(0s, Qt::red);
-    desktop.clock().at(2s, [this] { desktop.capture().end("The X server has gone."); });
-    desktop.clock().advance(5s);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ended, QStringList("The X server has gone."));
-    EXPECT_EQ(written.finished, 1);
-    EXPECT_NEAR(written.frames.back().time.count(), 2 - 1 / 60.0, 1e-9);
-    stop();
-    EXPECT_EQ(recorder.url(), path);
-}
-
-TEST_F(RunRecorderTest, DestroyedWhileItRunsItCompletesTheMovie)
-{
-    {
-        RunRecorder one(desktop, making());
-        one.start(RecordScope::screen, {}, true, false);
-        showAt(0s, Qt::red);
-        desktop.clock().advance(1s);
-    }
-    EXPECT_EQ(written.finished, 1);
-    EXPECT_EQ(desktop.capture().streams(), 0);
 }
 
 } // namespace velvane

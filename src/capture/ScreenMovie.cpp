@@ -38,7 +38,10 @@ void ScreenMovie::append(const Frame &frame)
 
 void ScreenMovie::end(Seconds at, const QString &reason)
 {
-    finish(at);
+    const std::lock_guard lock(m_mutex);
+    if (!m_writer)
+        return;
+    complete(at);
     m_ended(reason);
 }
 
@@ -47,6 +50,14 @@ void ScreenMovie::finish(Seconds at)
     const std::lock_guard lock(m_mutex);
     if (!m_writer)
         return;
+    const QString failure = complete(at);
+    if (!failure.isEmpty())
+        m_ended(failure);
+}
+
+// Ends the writing; why that failed, or nothing.
+QString ScreenMovie::complete(Seconds at)
+{
     QString failure;
     try {
         // What it showed last it shows until the end.
@@ -58,8 +69,7 @@ void ScreenMovie::finish(Seconds at)
         failure = QString::fromUtf8(error.what());
     }
     m_writer.reset();
-    if (!failure.isEmpty())
-        m_ended(failure);
+    return failure;
 }
 
 // After a failure, which it need not tell again.
@@ -70,12 +80,6 @@ void ScreenMovie::close()
     } catch (const std::exception &) {
     }
     m_writer.reset();
-}
-
-bool ScreenMovie::isEmpty() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_isEmpty;
 }
 
 } // namespace velvane

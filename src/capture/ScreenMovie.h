@@ -3,6 +3,7 @@
 #include "capture/PictureFit.h"
 #include "media/MovieWriter.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 
@@ -14,7 +15,7 @@ public:
     using Ended = std::function<void(const QString &reason)>;
 
     /// `begun` is the movie's beginning in the time of the frames; `ended` is called once, on the
-    /// thread that notices, when no more can be written.
+    /// thread that notices, when the movie is not complete to its end.
     ScreenMovie(std::unique_ptr<MovieWriter> writer, QSize size, Seconds begun, Ended ended);
 
     /// The first picture shows from the beginning on, whenever it was taken.
@@ -24,18 +25,20 @@ public:
     /// Completes the movie, which reaches to that moment. Nothing happens a second time.
     void finish(Seconds at);
 
-    bool isEmpty() const;
+    /// Has it no picture? Does not wait for what is being written.
+    bool isEmpty() const { return m_isEmpty; }
 
 private:
+    QString complete(Seconds at);
     void close();
 
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::unique_ptr<MovieWriter> m_writer; ///< null once the movie is complete
     PictureFit m_fit;
     const Seconds m_begun;
     const Ended m_ended;
     Seconds m_last{0}; ///< of the movie
-    bool m_isEmpty = true;
+    std::atomic<bool> m_isEmpty = true;
 };
 
 } // namespace velvane

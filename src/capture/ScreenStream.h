@@ -56,7 +56,7 @@ private:
 
     Desktop &m_desktop;
     LiveFrame m_live;
-    QTimer m_watchdog;
+    QTimer m_watchdog{this};
     Seconds m_lastFrame;
     bool m_isRunning = false;
     bool m_permissionDenied = false;

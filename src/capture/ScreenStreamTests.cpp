@@ -1,6 +1,5 @@
 #include "capture/ScreenStream.h"
 
-#include "capture/FrameMailbox.h"
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
 #include "support/RunToEnd.h"
@@ -31,6 +30,7 @@ protected:
     }
 
     void start() { runToEnd(stream.start()); }
+    QTimer &watchdog() { return *stream.findChild<QTimer *>(); }
     static void settle() { QCoreApplication::processEvents(); }
 
     SimulatedDesktop desktop;
@@ -124,44 +124,10 @@ TEST_F(ScreenStreamTest, AFailedStartDoesNotRetryByItself)
     EXPECT_EQ(desktop.capture().requests().size(), 1U);
 }
 
-TEST_F(ScreenStreamTest, BeforeTheSystemListsUsItWaitsOnceAndGoesOn)
+TEST_F(ScreenStreamTest, OnceTheSystemListsUsThereIsNoWait)
 {
-    SimulatedDesktop unlisted;
-    ScreenStream early(unlisted);
-    runToEnd(early.start());
-    EXPECT_EQ(unlisted.clock().now(), 0.2s);
-    EXPECT_TRUE(early.isRunning());
     start();
-    EXPECT_EQ(desktop.clock().now(), 0s) << "listed: no wait";
-}
-
-TEST_F(ScreenStreamTest, StoppedWhileItWaitsItDoesNotStart)
-{
-    SimulatedDesktop unlisted;
-    ScreenStream early(unlisted);
-    unlisted.clock().at(0.1s, [&] { early.stop(); });
-    runToEnd(early.start());
-    EXPECT_FALSE(early.isRunning());
-    EXPECT_TRUE(unlisted.capture().requests().empty());
-}
-
-TEST_F(ScreenStreamTest, StartedTwiceWhileItWaitsMakesOneStream)
-{
-    SimulatedDesktop unlisted;
-    ScreenStream early(unlisted);
-    const auto first = early.start();
-    runToEnd(early.start());
-    settle();
-    EXPECT_EQ(unlisted.capture().requests().size(), 1U);
-}
-
-TEST_F(ScreenStreamTest, DestroyedWhileItWaitsItDoesNothing)
-{
-    SimulatedDesktop unlisted;
-    auto early = std::make_unique<ScreenStream>(unlisted);
-    unlisted.clock().at(0.1s, [&] { early.reset(); });
-    runToEnd(early->start());
-    EXPECT_TRUE(unlisted.capture().requests().empty());
+    EXPECT_EQ(desktop.clock().now(), 0s);
 }
 
 TEST_F(ScreenStreamTest, TheNewestPictureIsPublished)
@@ -223,6 +189,21 @@ TEST_F(ScreenStreamTest, MoreThanThreeSecondsWithoutPicturesStartItAnew)
     EXPECT_TRUE(stream.isRunning());
     EXPECT_EQ(desktop.capture().requests().size(), 2U);
     EXPECT_EQ(desktop.capture().streams(), 1);
+}
+
+TEST_F(ScreenStreamTest, TheWatchdogLooksEveryTwoSecondsWhileAStreamRuns)
+{
+    EXPECT_FALSE(watchdog().isActive());
+    start();
+    EXPECT_TRUE(watchdog().isActive());
+    EXPECT_FALSE(watchdog().isSingleShot());
+    EXPECT_EQ(watchdog().intervalAsDuration(), 2s);
+    desktop.clock().advance(3.01s);
+    QMetaObject::invokeMethod(&watchdog(), "timeout");
+    settle();
+    EXPECT_EQ(desktop.capture().requests().size(), 2U);
+    stream.stop();
+    EXPECT_FALSE(watchdog().isActive());
 }
 
 TEST_F(ScreenStreamTest, AStreamThatTheSystemEndsIsStartedAnew)
@@ -290,30 +271,6 @@ TEST_F(ScreenStreamTest, TheSettingsPageIsTheOneOfScreenRecording)
     EXPECT_EQ(desktop.log(),
               (QStringList{"open x-apple.systempreferences:com.apple.preference.security"
                            "?Privacy_ScreenCapture"}));
-}
-
-TEST(FrameMailbox, WhatASlowReaderMissedStaysChanged)
-{
-    FrameMailbox mailbox;
-    const QImage image = picture(Qt::red);
-    EXPECT_TRUE(mailbox.put({image, QRect(0, 0, 2, 2), 1s}));
-    EXPECT_FALSE(mailbox.put({image, QRect(4, 4, 2, 2), 2s}));
-    const std::optional<Frame> frame = mailbox.take();
-    ASSERT_TRUE(frame);
-    EXPECT_EQ(frame->changed, QRegion(0, 0, 2, 2) + QRegion(4, 4, 2, 2));
-    EXPECT_EQ(frame->time, 2s);
-    EXPECT_FALSE(mailbox.take());
-    EXPECT_TRUE(mailbox.put({image, {}, 3s}));
-}
-
-TEST(FrameMailbox, APictureOfAnotherSizeIsAllChanged)
-{
-    FrameMailbox mailbox;
-    mailbox.put({picture(Qt::red), QRect(0, 0, 8, 6), 1s});
-    mailbox.put({picture(Qt::red, {4, 4}), QRect(0, 0, 1, 1), 2s});
-    const std::optional<Frame> frame = mailbox.take();
-    ASSERT_TRUE(frame);
-    EXPECT_EQ(frame->changed, QRegion(0, 0, 4, 4));
 }
 
 } // namespace velvane

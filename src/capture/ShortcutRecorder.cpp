@@ -33,7 +33,6 @@ QColor faint(QColor color, double opacity)
 ShortcutRecorder::ShortcutRecorder(QWidget *parent) : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setText(label());
     connect(this, &QAbstractButton::clicked, this, [this] { m_recording ? stop() : start(); });
@@ -111,6 +110,7 @@ void ShortcutRecorder::keyPressEvent(QKeyEvent *event)
     if (std::holds_alternative<KeyCapture::Ignored>(outcome))
         return;
     stop();
+    m_heldKey.hold(event->nativeScanCode());
     if (const auto *combination = std::get_if<KeyCombination>(&outcome))
         Q_EMIT recorded(*combination);
 }
@@ -152,8 +152,7 @@ void ShortcutRecorder::paintEvent(QPaintEvent *)
     const QColor accent = palette().color(QPalette::Link);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(
-        faint(primary, m_recording || underMouse() ? recordingFillOpacity : fillOpacity));
+    painter.setBrush(faint(primary, m_recording ? recordingFillOpacity : fillOpacity));
     const bool ring = hasFocus() && !m_recording;
     const double width = ring ? 2 : 1;
     painter.setPen(QPen(m_recording || ring ? accent : faint(primary, borderOpacity), width));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "capture/HeldKey.h"
 #include "capture/KeyCombination.h"
 
 #include <QAbstractButton>
@@ -10,7 +11,8 @@ namespace velvane {
 ///
 /// Clicking it starts and stops recording; the first key pressed ends it, and Escape cancels it.
 /// While it records it grabs the keyboard, so that keys which menus or the desktop would take
-/// arrive too; it lets go at once, also when it loses the focus or its window is deactivated.
+/// arrive too; it lets go at once, also when it loses the focus or its window is deactivated. What
+/// the key that ended it repeats while it stays down reaches nobody.
 class ShortcutRecorder : public QAbstractButton {
     Q_OBJECT
 public:
@@ -45,6 +47,8 @@ protected:
 private:
     QString m_display;
     bool m_recording = false;
+    /// The one that ended the recording.
+    HeldKey m_heldKey;
 };
 
 } // namespace velvane

@@ -18,6 +18,14 @@ struct ShortcutRecorderTest : testing::Test {
     {
         Widgets::press(recorder, key, modifiers, text);
     }
+    /// Sends an event of a key that stays down, or of the first moment; is it kept from everybody?
+    bool takes(QEvent::Type type, bool isRepeat)
+    {
+        QKeyEvent event(type, Qt::Key_Return, Qt::ControlModifier, 36, 0, 0, {}, isRepeat);
+        event.ignore();
+        QApplication::sendEvent(&recorder, &event);
+        return event.isAccepted();
+    }
 
     ShortcutRecorder recorder;
     QList<KeyCombination> recorded;
@@ -134,6 +142,30 @@ TEST_F(ShortcutRecorderTest, NoShortcutTakesTheKeyWhileItRecords)
     during.ignore();
     QApplication::sendEvent(&recorder, &during);
     EXPECT_TRUE(during.isAccepted());
+}
+
+TEST_F(ShortcutRecorderTest, WhatTheKeyRepeatsThatEndedItReachesNobody)
+{
+    recorder.show();
+    for (int n = 1; n <= 2; ++n) {
+        recorder.click();
+        EXPECT_TRUE(takes(QEvent::KeyPress, false));
+        EXPECT_TRUE(takes(QEvent::ShortcutOverride, true));
+        EXPECT_TRUE(takes(QEvent::KeyPress, true));
+        EXPECT_FALSE(recorder.isRecording()) << "nor does Return start it again";
+        EXPECT_EQ(recorded.size(), n);
+    }
+}
+
+TEST_F(ShortcutRecorderTest, ThePointerOverItLeavesItsColorAlone)
+{
+    const auto fill = [this] { return recorder.grab().toImage().pixelColor(8, 4); };
+    recorder.show();
+    const QColor idle = fill();
+    recorder.setAttribute(Qt::WA_UnderMouse);
+    EXPECT_EQ(fill(), idle);
+    recorder.start();
+    EXPECT_NE(fill(), idle);
 }
 
 } // namespace velvane

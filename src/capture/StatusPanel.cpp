@@ -11,7 +11,6 @@ namespace {
 
 // Logical pixels.
 constexpr int fromTop = 40;
-constexpr double radius = 13;
 constexpr int textInset = 16;
 constexpr int textSize = 14;
 constexpr float darkness = 0.82F;
@@ -31,7 +30,7 @@ QScreen *screenOf(const Display &display)
 
 // Every pixel that the rounded rectangle touches: with a compositor its edge is smooth, without
 // one, when nothing is translucent, its corners are still round.
-QBitmap shapeOf(const QRect &rect)
+QBitmap shapeOf(const QRect &rect, double radius)
 {
     QImage image(rect.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -51,12 +50,13 @@ QBitmap shapeOf(const QRect &rect)
 
 } // namespace
 
-StatusPanel::StatusPanel(Screens &screens, QSize size, QWidget *parent)
+StatusPanel::StatusPanel(Screens &screens, QSize size, double radius, QWidget *parent)
     // A window manager would put a frame around it, which takes clicks.
     : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
                           | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus
                           | Qt::BypassWindowManagerHint)
     , m_screens(screens)
+    , m_radius(radius)
 {
     setFixedSize(size);
     setFocusPolicy(Qt::NoFocus);
@@ -64,7 +64,7 @@ StatusPanel::StatusPanel(Screens &screens, QSize size, QWidget *parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setMask(shapeOf(rect()));
+    setMask(shapeOf(rect(), m_radius));
     connect(&m_keepAbove, &QTimer::timeout, this, &QWidget::raise);
 }
 
@@ -106,7 +106,7 @@ void StatusPanel::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgbF(0, 0, 0, darkness));
-    painter.drawRoundedRect(rect(), radius, radius);
+    painter.drawRoundedRect(rect(), m_radius, m_radius);
     QFont font = QGuiApplication::font();
     font.setPixelSize(textSize);
     font.setWeight(QFont::DemiBold);

@@ -14,8 +14,8 @@ namespace velvane {
 class StatusPanel : public QWidget {
     Q_OBJECT
 public:
-    /// `size` is in logical pixels. Shown by showText() only.
-    StatusPanel(Screens &screens, QSize size, QWidget *parent = nullptr);
+    /// `size` and the corners' `radius` are in logical pixels. Shown by showText() only.
+    StatusPanel(Screens &screens, QSize size, double radius, QWidget *parent = nullptr);
 
     QString text() const { return m_text; }
     /// Shows the panel with this text, or another text in the panel on show.
@@ -33,6 +33,7 @@ private:
     void placeOnMainDisplay();
 
     Screens &m_screens;
+    const double m_radius;
     QString m_text;
     QTimer m_keepAbove;
 };

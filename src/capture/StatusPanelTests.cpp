@@ -10,6 +10,7 @@ namespace velvane {
 namespace {
 
 const QSize size(360, 52);
+constexpr double radius = 13;
 
 } // namespace
 
@@ -42,7 +43,7 @@ TEST(StatusPanel, AScreenWithoutASizeIsNoDivisionByZero)
 TEST(StatusPanel, ItTakesNeitherClicksNorKeysNorTheFocus)
 {
     SimulatedDesktop desktop;
-    const StatusPanel panel(desktop.screens(), size);
+    const StatusPanel panel(desktop.screens(), size, radius);
     const Qt::WindowFlags flags = panel.windowFlags();
     EXPECT_TRUE(flags & Qt::WindowTransparentForInput);
     EXPECT_TRUE(flags & Qt::WindowDoesNotAcceptFocus);
@@ -56,7 +57,7 @@ TEST(StatusPanel, ItTakesNeitherClicksNorKeysNorTheFocus)
 TEST(StatusPanel, ItShowsATextAndThenAnother)
 {
     SimulatedDesktop desktop;
-    StatusPanel panel(desktop.screens(), size);
+    StatusPanel panel(desktop.screens(), size, radius);
     EXPECT_FALSE(panel.isVisible());
     panel.showText("one");
     EXPECT_TRUE(panel.isVisible());
@@ -69,7 +70,7 @@ TEST(StatusPanel, ItShowsATextAndThenAnother)
 TEST(StatusPanel, ItIsDarkWithWhiteTextAndRoundCorners)
 {
     SimulatedDesktop desktop;
-    StatusPanel panel(desktop.screens(), size);
+    StatusPanel panel(desktop.screens(), size, radius);
     panel.showText("●●●●●●●●");
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
@@ -86,7 +87,7 @@ TEST(StatusPanel, WithoutADisplayItIsShownAllTheSame)
 {
     SimulatedDesktop desktop;
     desktop.screens().setDisplays({});
-    StatusPanel panel(desktop.screens(), size);
+    StatusPanel panel(desktop.screens(), size, radius);
     panel.showText("text");
     EXPECT_TRUE(panel.isVisible());
 }

@@ -2,9 +2,12 @@
 
 #include "capture/RecordActionsController.h"
 #include "cli/DemoFile.h"
+#include "cli/RescuedDemo.h"
 #include "cli/Waiting.h"
 
 #include <QFileInfo>
+
+#include <climits>
 
 namespace velvane::cli {
 
@@ -53,6 +56,27 @@ void append(const QList<Step> &steps, const std::optional<QByteArray> &movie,
     writeDemo(project.fileSnapshot(), fileName(demo));
 }
 
+// The steps of a performance that nobody wants to give twice. What the demo was when it began goes
+// with them.
+[[noreturn]] void rescue(const CommandError &failure, const Project &project, const QString &path)
+{
+    const std::optional<QString> kept = rescueDemo(project.fileSnapshot(), path);
+    if (!kept)
+        throw failure;
+    constexpr qsizetype longEnough = 2 * PATH_MAX;
+    throw CommandError(QString::fromStdString(
+        printable(tr("%1; the recorded steps are in %2").arg(failure.what(), *kept), longEnough)));
+}
+
+void keep(const QList<Step> &steps, const Project &project, const std::string &demo)
+{
+    try {
+        append(steps, project.recordingBookmark(), demo);
+    } catch (const CommandError &failure) {
+        rescue(failure, project, fileName(demo));
+    }
+}
+
 } // namespace
 
 int recordDemo(const std::string &demo, Desktop &desktop, Console &console)
@@ -72,6 +96,9 @@ int recordDemo(const std::string &demo, Desktop &desktop, Console &console)
                          else
                              outcome = message;
                      });
+    QObject::connect(
+        &recording, &RecordActionsController::movieEnded, &recording,
+        [&](const QString &message) { console.err << printable(message) << std::endl; });
     tellLargerScreen(recording, project.canvasSize(), console);
     Waiting::forTask([&] { return recording.record(); }, [&] { recording.cancel(); });
 
@@ -79,7 +106,7 @@ int recordDemo(const std::string &demo, Desktop &desktop, Console &console)
     if (recording.outcome() == Outcome::refused)
         throw CommandError(outcome);
     if (recording.outcome() == Outcome::recorded)
-        append(project.steps().sliced(before), project.recordingBookmark(), demo);
+        keep(project.steps().sliced(before), project, demo);
     console.out << printable(outcome) << std::endl;
     return 0;
 }

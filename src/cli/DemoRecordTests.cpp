@@ -133,6 +133,69 @@ TEST_F(DemoRecordTest, WhatAnotherProgramSavedMeanwhileIsKept)
     EXPECT_EQ(saved()[2].kind, StepKind::click);
 }
 
+TEST_F(DemoRecordTest, WhenTheDemoHasGoneTheStepsAreKeptBesideIt)
+{
+    const QString kept = folder.filePath("demo recorded 2.velvane");
+    DemoDocument taken;
+    EXPECT_FALSE(DemoDocument::write(taken.snapshot(), folder.filePath("demo recorded.velvane")));
+    clickAt(3s);
+    desktop.clock().at(3.5s, [this] { QFile::remove(path); });
+    pressEscapeAt(4s);
+    const QString reason = refused();
+    EXPECT_TRUE(reason.startsWith(path)) << reason.toStdString();
+    EXPECT_TRUE(reason.endsWith("; the recorded steps are in " + kept)) << reason.toStdString();
+    const auto demo = DemoDocument::read(kept);
+    ASSERT_EQ(demo->project().steps().size(), 2);
+    EXPECT_EQ(demo->project().steps()[1].kind, StepKind::click);
+    EXPECT_EQ(demo->project().canvasSize(), QSizeF(1920, 1080));
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(DemoRecordTest, WhenTheDemoIsDamagedItStaysAndTheStepsAreKeptBesideIt)
+{
+    clickAt(3s);
+    desktop.clock().at(3.5s, [this] {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write("no demo");
+    });
+    pressEscapeAt(4s);
+    const QString reason = refused();
+    EXPECT_FALSE(reason.contains('\n'));
+    EXPECT_EQ(bytes(), "no demo");
+    EXPECT_EQ(
+        DemoDocument::read(folder.filePath("demo recorded.velvane"))->project().steps().size(), 2);
+}
+
+TEST_F(DemoRecordTest, WhenItsFolderHasGoneTheStepsAreKeptInTheUsersOwn)
+{
+    const QByteArray before = qgetenv("XDG_STATE_HOME");
+    qputenv("XDG_STATE_HOME", home.path().toUtf8() + "/state");
+    clickAt(3s);
+    desktop.clock().at(3.5s, [this] { folder.remove(); });
+    pressEscapeAt(4s);
+    const QString reason = refused();
+    const QString kept = home.path() + "/state/velvane/recorded/demo recorded.velvane";
+    EXPECT_TRUE(reason.endsWith(kept)) << reason.toStdString();
+    EXPECT_EQ(DemoDocument::read(kept)->project().steps().size(), 2);
+    before.isNull() ? qunsetenv("XDG_STATE_HOME") : qputenv("XDG_STATE_HOME", before);
+}
+
+TEST_F(DemoRecordTest, AMovieThatBreaksOffIsToldOnTheErrorOutput)
+{
+    desktop.clock().at(2.8s, [this] {
+        QImage picture(320, 200, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        desktop.capture().show(picture);
+    });
+    clickAt(3s);
+    desktop.clock().at(3.5s, [this] { desktop.capture().end("The display has gone."); });
+    pressEscapeAt(4s);
+    EXPECT_EQ(record(), 0);
+    EXPECT_EQ(out.str(), "Recorded 1 step with screen recording.\n");
+    EXPECT_EQ(err.str(), "Recording stopped: The display has gone.\n");
+}
+
 TEST_F(DemoRecordTest, WhatIsWithheldIsSaidAndNoPageOpens)
 {
     const QByteArray before = bytes();

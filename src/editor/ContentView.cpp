@@ -133,6 +133,8 @@ void ContentView::wireRecordActions()
 {
     connect(&m_recordActions, &RecordActionsController::reported, &m_statusLine,
             &StatusLine::setMessage);
+    connect(&m_recordActions, &RecordActionsController::movieEnded, &m_statusLine,
+            &StatusLine::addMessage);
     connect(&m_recordActions, &RecordActionsController::aboutToRecord, &m_fieldEditing,
             &FieldEditing::commitOpenGesture);
     connect(&m_recordActions, &RecordActionsController::movieRecorded, this,

@@ -42,6 +42,17 @@ TEST_F(RecordActionsInWindow, TheRecordedStepsAreSelectedAndTheStatusLineSaysSo)
     EXPECT_EQ(view->statusLine().message(), "Recorded 1 step.");
 }
 
+TEST_F(RecordActionsInWindow, AMovieThatBrokeOffIsToldBesideTheSteps)
+{
+    QImage picture(1920, 1080, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    at(2.8s, [this, picture] { desktop.capture().show(picture); });
+    at(3.5s, [this] { desktop.capture().end("The display has gone."); });
+    recordAClick();
+    EXPECT_EQ(view->statusLine().message(), "Recorded 1 step with screen recording. "
+                                            "Recording stopped: The display has gone.");
+}
+
 TEST_F(RecordActionsInWindow, TheMenusSayThatItRecordsAndStopIt)
 {
     QList<bool> states;

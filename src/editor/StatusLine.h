@@ -13,6 +13,8 @@ public:
 
     const QString &message() const { return m_message; }
     void setMessage(const QString &message);
+    /// Another sentence to the message.
+    void addMessage(const QString &message) { setMessage(m_message + ' ' + message); }
 
 Q_SIGNALS:
     void messageChanged();

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
+#include <QtEndian>
 
 #include <gtest/gtest.h>
 
@@ -141,6 +142,30 @@ TEST_F(BadMovieTest, APlainMovieWithoutItsEndShowsWhatItHas)
     ASSERT_TRUE(opening.reader);
     EXPECT_EQ(NumberedMovie::numberIn(opening.reader->picture(Seconds(0.21))), 10);
     EXPECT_GT(NumberedMovie::numberIn(opening.reader->picture(Seconds(1.2))), 10);
+}
+
+TEST_F(BadMovieTest, PacketsThatHoldNoPictureEndAndCanBeLeft)
+{
+    NumberedMovie::write(file("real.mp4"), 200, 50);
+    QByteArray bytes = bytesOf(file("real.mp4"));
+    const qsizetype pictures = bytes.indexOf("mdat") + 4;
+    const qsizetype end = pictures - 8 + qFromBigEndian<quint32>(bytes.constData() + pictures - 8);
+    ASSERT_LE(end, bytes.size());
+    std::fill(bytes.begin() + pictures, bytes.begin() + end, '\0');
+
+    const QString blank = write("blank.mp4", bytes);
+
+    EXPECT_EQ(refusal(blank), "The movie has no picture that can be decoded.");
+    const auto askedUntil = [&blank](int patience) {
+        int asked = 0;
+        const auto check = [&asked, patience] { return ++asked > patience; };
+        EXPECT_FALSE(MovieReader::open(blank, check).reader);
+        return asked;
+    };
+    // However many there are, somebody who does not want it any more need not wait.
+    const int untilTheEnd = askedUntil(1'000'000);
+    EXPECT_GT(untilTheEnd, 200) << "asked for each";
+    EXPECT_LT(askedUntil(100), 120);
 }
 
 TEST_F(BadMovieTest, DamagedBytesDoNoHarm)

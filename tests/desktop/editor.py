@@ -1,8 +1,12 @@
 #!/usr/bin/python3
 """The step list and the inspector, driven by mouse and keyboard; the saved file is what counts."""
 
+import subprocess
+import time
+
 from driver import xdotool
 from fixture import EditorTest, main, move, step
+from heard import Heard
 
 CONTROL, SHIFT, SUPER = 0x40000, 0x20000, 0x100000
 
@@ -242,6 +246,37 @@ class Inspector(EditorTest):
         editor.wait_rows("1, Press ⌃S")
         saved = editor.saved_steps()[0]
         self.assertEqual((saved["keyCode"], saved["modifiers"], saved["text"]), (1, CONTROL, "S"))
+
+    def test_caps_lock_adds_nothing_to_a_shortcut(self):
+        editor = self.open(step("shortcut"))
+        editor.click(editor.row("1"))
+        editor.key("Caps_Lock")
+        self.addCleanup(editor.key, "Caps_Lock")
+        editor.click(editor.find("push button", "Shortcut"))
+        editor.key("ctrl+s")
+        editor.wait_rows("1, Press ⌃S")
+        saved = editor.saved_steps()[0]
+        self.assertEqual((saved["keyCode"], saved["modifiers"], saved["text"]), (1, CONTROL, "S"))
+
+    def test_a_shortcut_that_stays_down_reaches_no_menu(self):
+        subprocess.run(["xset", "r", "rate", "200", "30"], check=True)
+        heard = Heard()
+        self.addCleanup(heard.close)
+        editor = self.open(step("shortcut"))
+        editor.click(editor.row("1"))
+        button = editor.find("push button", "Shortcut")
+        for key, code, shown in (("d", 40, "⌃D"), ("z", 52, "⌃Z"), ("w", 25, "⌃W")):
+            editor.click(button)
+            since = heard.forget()
+            xdotool("keydown", "ctrl", "keydown", key)
+            time.sleep(0.9)
+            xdotool("keyup", key, "keyup", "ctrl")
+            editor.wait(lambda: ("key-up", code) in heard.keys(since), "the key to come up")
+            self.assertGreater(heard.keys(since).count(("key-down", code)), 5, "it repeats")
+            editor.wait_rows(f"1, Press {shown}")
+        # The next press is the menu's again.
+        editor.key("ctrl+d")
+        editor.wait_rows("1, Press ⌃W", "2, Press ⌃W")
 
 
 if __name__ == "__main__":

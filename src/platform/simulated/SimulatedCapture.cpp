@@ -40,6 +40,7 @@ void SimulatedCapture::end(const QString &reason)
 CaptureOpening SimulatedCapture::open(const CaptureRequest &request, Captured captured, Ended ended)
 {
     m_requests.push_back(request);
+    m_clock.sleep(m_openingTime);
     if (!works())
         return {nullptr, missing()};
     if (!m_permissions.granted(Permission::screenRecording))

@@ -26,6 +26,9 @@ public:
     /// Every open() fails with this error; empty lets them succeed again.
     void failWith(const QString &error) { m_error = error; }
 
+    /// How long every open() takes.
+    void setOpeningTime(Seconds duration) { m_openingTime = duration; }
+
     /// What was asked for so far.
     const std::vector<CaptureRequest> &requests() const { return m_requests; }
     int streams() const { return m_streams.count(); }
@@ -45,6 +48,7 @@ private:
     Listeners<Stream> m_streams;
     std::vector<CaptureRequest> m_requests;
     QString m_error;
+    Seconds m_openingTime{0};
 };
 
 } // namespace velvane
