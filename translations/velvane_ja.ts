@@ -59,6 +59,11 @@
         <translation>画面を静止</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>壊れたプロパティリスト: %1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>「%1」のテキストはありません。あるのは %2 だけです</translation>
@@ -148,6 +153,11 @@ H.264 movie or performed on the real desktop.</source>
         <translation>すべてのテキストの言語(例: de)</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>オプション</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -175,6 +185,11 @@ Results go to standard output, messages and progress to standard error.
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>標準出力に書き込めません</translation>
     </message>
     <message>
         <source>Actions are being recorded.</source>
@@ -752,6 +767,76 @@ Results go to standard output, messages and progress to standard error.
         <translation>時間を変更</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>辞書ではありません</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>ステップ%1: %2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」がありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が文字列ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が真偽値ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」がバイナリデータではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が配列ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が有限の値ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が数値ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が2つの数値の配列ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が整数ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が範囲外です</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」がUUIDではありません: 「%2」</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>不明な種類「%1」</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>%1×%2ピクセルのムービーは作れません: 各辺は1〜%3ピクセルです</translation>
@@ -990,6 +1075,11 @@ Results go to standard output, messages and progress to standard error.
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>所要時間 %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>ステップが%1個を超えています</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1267,66 +1357,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>キャンバス%1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>(%1, %2)へ移動</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>クリック</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>右クリック</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>マウスボタンを押し続ける</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>マウスボタンを放す</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>「%1」と入力</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>ショートカット</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>%1を押す</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>%1秒待つ</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>%1に切り替え</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>アプリ</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>セクション</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>ステップを切り取り</translation>
@@ -1437,6 +1467,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>ステップ一覧での見出し</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>アプリ</translation>
@@ -1480,6 +1515,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>移動</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>クリック</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>右クリック</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1535,6 +1580,11 @@ Results go to standard output, messages and progress to standard error.
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>切替</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>セクション</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1787,6 +1837,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>名前なし</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>壊れたプロパティリスト: %1行%2列: %3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>ディスプレイ%1を開けません</translation>
@@ -1862,6 +1917,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1秒待つ</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>フォルダーです</translation>
@@ -1870,6 +1930,16 @@ Results go to standard output, messages and progress to standard error.
         <source>is not a regular file</source>
         <extracomment>velvane</extracomment>
         <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>大きすぎます(%1バイト)</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -1882,14 +1952,39 @@ Results go to standard output, messages and progress to standard error.
         <translation>開けません: %1</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>大きすぎます(%1バイト)</translation>
+        <translation>(%1, %2)へ移動</translation>
     </message>
     <message>
-        <source>cannot be read: %1</source>
+        <source>Hold mouse down</source>
         <extracomment>velvane</extracomment>
-        <translation>読み込めません: %1</translation>
+        <translation>マウスボタンを押し続ける</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>マウスボタンを放す</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>「%1」と入力</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1を押す</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1に切り替え</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>アプリ</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2245,11 +2340,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>サブコマンド</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>オプション</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>

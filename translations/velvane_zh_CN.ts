@@ -59,6 +59,11 @@
         <translation>冻结画面</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>属性列表已损坏：%1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>没有“%1”的文本，仅有 %2</translation>
@@ -147,6 +152,11 @@ H.264 movie or performed on the real desktop.</source>
         <translation>所有文本的语言，例如 de</translation>
     </message>
     <message>
+        <source>Options</source>
+        <extracomment>CommandLine, cli</extracomment>
+        <translation>选项</translation>
+    </message>
+    <message>
         <source>EXIT STATUS
   0  success
   1  failure, with one line on standard error; a live run that was stopped
@@ -174,6 +184,11 @@ Results go to standard output, messages and progress to standard error.
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>无法写入标准输出</translation>
     </message>
     <message>
         <source>Actions are being recorded.</source>
@@ -751,6 +766,76 @@ Results go to standard output, messages and progress to standard error.
         <translation>更改时长</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>不是字典</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>步骤 %1：%2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是字符串</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是布尔值</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是二进制数据</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是数组</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是有限数值</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是数字</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是由两个数字组成的数组</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”超出范围</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是 UUID：“%2”</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>未知类型“%1”</translation>
+    </message>
+    <message>
         <source>a movie of %1 × %2 pixels is not possible: sides are from 1 to %3 pixels</source>
         <extracomment>H264MovieWriter</extracomment>
         <translation>无法制作 %1 × %2 像素的影片：边长须为 1 到 %3 像素</translation>
@@ -989,6 +1074,11 @@ Results go to standard output, messages and progress to standard error.
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>用时 %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>步骤超过 %1 个</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1266,66 +1356,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>画布 %1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>移动到 (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>点击</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>右键点击</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>按住鼠标</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>松开鼠标</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>输入“%1”</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>快捷键</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>按 %1</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>等待 %1 秒</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>切换到 %1</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>应用</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>分节</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>剪切步骤</translation>
@@ -1436,6 +1466,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>步骤列表中的标题</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>快捷键</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>应用</translation>
@@ -1479,6 +1514,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>移动</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>点击</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>右键点击</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1534,6 +1579,11 @@ Results go to standard output, messages and progress to standard error.
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>切换</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>分节</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1786,6 +1836,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>无名称</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>属性列表已损坏：第 %1 行第 %2 列：%3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>无法打开显示器 %1</translation>
@@ -1861,6 +1916,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>等待 %1 秒</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>是文件夹</translation>
@@ -1869,6 +1929,16 @@ Results go to standard output, messages and progress to standard error.
         <source>is not a regular file</source>
         <extracomment>velvane</extracomment>
         <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>过大，%1 字节</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -1881,14 +1951,39 @@ Results go to standard output, messages and progress to standard error.
         <translation>无法打开：%1</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>过大，%1 字节</translation>
+        <translation>移动到 (%1, %2)</translation>
     </message>
     <message>
-        <source>cannot be read: %1</source>
+        <source>Hold mouse down</source>
         <extracomment>velvane</extracomment>
-        <translation>无法读取：%1</translation>
+        <translation>按住鼠标</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>松开鼠标</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>输入“%1”</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>按 %1</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>切换到 %1</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>应用</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2244,11 +2339,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Subcommands</source>
         <extracomment>cli</extracomment>
         <translation>子命令</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <extracomment>cli</extracomment>
-        <translation>选项</translation>
     </message>
     <message>
         <source>Print this help message and exit</source>
