@@ -16,9 +16,10 @@ namespace velvane {
 namespace {
 
 // Bytes. A demo's weight is that of its backdrop: a large screen's picture takes less than half of
-// this. Reading takes twice a binary file's bytes of memory, and three times an XML file's.
+// this. Reading takes twice a binary file's bytes of memory; an XML file's three times for data and
+// six times for a comment.
 constexpr qint64 maxBinarySize = qint64(192) << 20;
-constexpr qint64 maxXmlSize = qint64(150) << 20;
+constexpr qint64 maxXmlSize = qint64(72) << 20;
 
 QString tr(const char *english)
 {
