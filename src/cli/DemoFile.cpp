@@ -16,7 +16,7 @@ ProjectFile readRecord(const std::string &path)
     try {
         return DemoDocument::readFile(name);
     } catch (const DocumentError &error) {
-        throw CommandError(QString::fromStdString(printable(name + ": " + error.message())));
+        throw CommandError(name + ": " + error.message());
     }
 }
 
@@ -25,7 +25,7 @@ void writeDemo(const ProjectFile &file, const QString &path)
     // An editor may be about to replace the same file.
     const FolderLock lock(path);
     if (const auto failure = DemoDocument::write(file, path))
-        throw CommandError(QString::fromStdString(printable(path + ": " + *failure)));
+        throw CommandError(path + ": " + *failure);
 }
 
 } // namespace velvane::cli
