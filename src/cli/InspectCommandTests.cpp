@@ -48,13 +48,10 @@ TEST_F(CommandLineTest, InspectPrintsATable)
 TEST_F(CommandLineTest, TheTablesColumnsStandBelowEachOtherWhateverTheTextsAre)
 {
     ProjectFile file;
-    for (const char *text : {"short", "画面の上にあるメニューを開いて、ファイルを選んでください",
-                             "👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽"
-                             "👍"
-                             "🏽👍🏽👍🏽👍🏽👍"
-                             "🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽👍🏽",
-                             "a\nb\u202Ec"})
-        file.steps << Step{.kind = StepKind::type, .text = QString::fromUtf8(text)};
+    for (const QString &text :
+         {QStringLiteral("short"), QStringLiteral("画面の上").repeated(8),
+          QStringLiteral("👍🏽").repeated(25), QStringLiteral("a\nb\u202Ec")})
+        file.steps << Step{.kind = StepKind::type, .text = text};
     ASSERT_FALSE(DemoDocument::write(file, folder.filePath("a.velvane")));
     const QString table = QString::fromStdString(runWith({"inspect", path("a.velvane")}).out);
     const QStringList lines = table.split(u'\n', Qt::SkipEmptyParts);
