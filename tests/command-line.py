@@ -12,28 +12,46 @@ import struct
 import subprocess
 import sys
 import tempfile
-import time
+import threading
 import unittest
+import zlib
 
 VELVANE = os.path.abspath(sys.argv.pop(1))
 SANITIZED = os.environ.get("VELVANE_SANITIZED") == "1"
 MAX_SECONDS = 5
+# No program under test takes as long, whatever else the machine does.
+PATIENCE = 180
 # The texts that are looked for below.
 os.environ["LANGUAGE"] = "en"
 MAX_BYTES = 500 * 2**20
+FREE_MEMORY = os.sysconf("SC_AVPHYS_PAGES") * os.sysconf("SC_PAGE_SIZE")
+
+
+class Patience:
+    """Ends a process that takes too long, so that whoever waits for it fails and goes on."""
+
+    def __init__(self, process):
+        self.timer = threading.Timer(PATIENCE, process.kill)
+
+    def __enter__(self):
+        self.timer.start()
+
+    def __exit__(self, *_):
+        self.timer.cancel()
 
 
 class Result:
     def __init__(self, arguments, limits=None, env=None, cwd=None):
         with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
-            start = time.monotonic()
             process = subprocess.Popen([VELVANE, *arguments], stdin=subprocess.DEVNULL, stdout=out,
                                        stderr=err, preexec_fn=limits, cwd=cwd,
                                        env={**os.environ, **(env or {})})
-            _, status, usage = os.wait4(process.pid, 0)
-            process.returncode = os.waitstatus_to_exitcode(status)
+            with Patience(process):
+                _, status, usage = os.wait4(process.pid, 0)
+                process.returncode = os.waitstatus_to_exitcode(status)
             self.status = process.returncode
-            self.seconds = time.monotonic() - start
+            # The processor's: others may be busy with it too.
+            self.seconds = usage.ru_utime + usage.ru_stime
             self.bytes = usage.ru_maxrss * 1024
             out.seek(0)
             err.seek(0)
@@ -59,6 +77,44 @@ def nested_binary(depth):
     for offset in offsets:
         data += struct.pack(">I", offset)
     return bytes(data) + struct.pack(">6xBBQQQ", 4, 4, depth, 0, table)
+
+
+def large_binary(size):
+    """The start and the end of a file that lists one datum of zeros, and the datum's size."""
+    start = b"bplist00\xa1\x01\x4f\x13"
+    end = struct.pack(">QQ", 8, 10) + struct.pack(">6xBBQQQ", 8, 1, 2, 0, size - 32 - 16)
+    return start + struct.pack(">Q", size - len(start) - 8 - len(end)), end
+
+
+def many_texts_binary(count):
+    """A list of so many texts of one character each."""
+    start = b"bplist00\xaf\x12" + struct.pack(">I", count)
+    references = b"".join(struct.pack(">I", k)[1:] for k in range(1, count + 1))
+    texts = len(start) + len(references)
+    offsets = [8, *range(texts, texts + 2 * count, 2)]
+    table = b"".join(struct.pack(">I", offset) for offset in offsets)
+    return (start + references + b"\x51x" * count + table
+            + struct.pack(">6xBBQQQ", 4, 3, count + 1, 0, texts + 2 * count))
+
+
+def png(width, height, bits, compressed):
+    """A picture of red, green and blue without any compression's choice of its own."""
+    def chunk(kind, data):
+        return struct.pack(">I", len(data)) + kind + data + struct.pack(
+            ">I", zlib.crc32(kind + data))
+    header = struct.pack(">IIBBBBB", width, height, bits, 2, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", compressed)
+            + chunk(b"IEND", b""))
+
+
+def compressed_zeros(size):
+    """As zlib would, without going through all of them: equal pieces, flushed apart."""
+    piece = 2**20
+    packer = zlib.compressobj(9, wbits=-15)
+    one = packer.compress(bytes(piece)) + packer.flush(zlib.Z_FULL_FLUSH)
+    packer = zlib.compressobj(9, wbits=-15)
+    rest = packer.compress(bytes(size % piece)) + packer.flush()
+    return b"\x78\xda" + one * (size // piece) + rest + struct.pack(">HH", size % 65521, 1)
 
 
 def objects_binary(objects):
@@ -166,6 +222,86 @@ class CommandLine(unittest.TestCase):
         self.assertRefused("a.velvane", f"<!DOCTYPE plist [{entities}]><plist><dict><key>version"
                                         f"</key><string>&e9;</string></dict></plist>".encode())
 
+    def spared(self):
+        # Far more than what is asserted: only so that a fault does not take all of the machine.
+        resource.setrlimit(resource.RLIMIT_AS, (4 * 2**30, 4 * 2**30))
+
+    def assertBounded(self, path, reason):
+        result = Result(["inspect", path], limits=None if SANITIZED else self.spared)
+        self.assertOneLine(result)
+        self.assertIn(reason, result.err)
+
+    def sparse(self, name, start, size, end=b""):
+        path = self.write(name, start)
+        os.truncate(path, size - len(end))
+        with open(path, "ab") as file:
+            file.write(end)
+        return path
+
+    def test_large_files_are_refused_within_bounds(self):
+        large = 2**30
+        for start, reason in ((b"bplist00", "too large, "), (b"<plist><string>", "too large, "),
+                              (b"hello", "too large, ")):
+            self.assertBounded(self.sparse("a.velvane", start, large), reason)
+        most = 192 * 2**20
+        self.assertBounded(self.sparse("a.velvane", b"bplist00", most), "trailer at byte ")
+        start, end = large_binary(most)
+        self.assertBounded(self.sparse("a.velvane", start, most, end), "not a dictionary")
+        self.assertBounded(self.write("a.velvane", many_texts_binary(4_000_000)),
+                           "takes too much memory")
+
+    def test_large_xml_files_are_refused_within_bounds(self):
+        most = 72 * 2**20
+        for start, part, end, reason in (
+                (b"<plist><string>", b"x", b"", "Premature end of document"),
+                (b"<plist><string>", b"x", b"</string></plist>", "a text that is too long"),
+                (b"<plist><data>", b"AAAA", b"</data></plist>", "not a dictionary"),
+                (b"<plist><!--", b"x", b"", "Premature end of document"),
+                (b"<plist><string><![CDATA[", b"x", b"", "Premature end of document"),
+                (b"<plist><?x ", b"x", b"", "Premature end of document"),
+                (b"<plist a='", b"x", b"", "Premature end of document"),
+                (b"<plist><array>", b"<string>abc</string>", b"", "too much for the memory"),
+                (b"<plist><array>", b"<true/>", b"", "too m"),
+                (b"<plist><array>", b"<array><true/></array>", b"", "too much for the memory"),
+                (b"<plist><array>", b"<dict><key>k</key><true/></dict>", b"",
+                 "too much for the memory"),
+                (b"<plist><dict><key>steps</key><array>",
+                 b"<dict><key>kind</key><string>wait</string></dict>", b"",
+                 "too much for the memory")):
+            with self.subTest(start=start, part=part, end=end):
+                content = start + part * ((most - len(start) - len(end)) // len(part)) + end
+                self.assertBounded(self.write("a.velvane", content), reason)
+
+    def test_more_steps_than_any_demo_has_are_refused(self):
+        path = self.write("a.velvane", demo(steps=[{"kind": "wait"}] * 150_001))
+        self.assertBounded(path, "more than 150000 steps")
+
+    def test_the_largest_honest_demos_open(self):
+        def picture(width, height):
+            return png(width, height, 8, zlib.compress(bytes((1 + 3 * width) * height), 0))
+        root = demo(steps=[
+            {"kind": "move", "point": [k * 0.7, k * 0.3], "text": f"step {k}", "duration": 1.25,
+             "pauseAfter": 0.5, "keyCode": 0, "modifiers": 0, "centerWindow": False,
+             "collapsed": False, "recordedOffset": k * 2.0,
+             "id": f"{k:08X}-0123-4567-89AB-0123456789AB"} for k in range(10_000)])
+        for form, height, size in ((plistlib.FMT_BINARY, 5600, 100_000_000),
+                                   (plistlib.FMT_XML, 2300, 40_000_000)):
+            root["background"] = picture(6000, height)
+            self.assertGreater(len(root["background"]), size)
+            path = self.write("a.velvane", plistlib.dumps(root, fmt=form))
+            result = Result(["inspect", path, "--json"])
+            self.assertEqual((result.status, result.err), (0, ""))
+            found = json.loads(result.out)
+            self.assertEqual((len(found["steps"]), found["hasBackground"]), (10_000, True))
+
+    @unittest.skipIf(SANITIZED or FREE_MEMORY < 2**32, "the picture takes 2 GiB of memory")
+    def test_the_largest_picture_of_16_bits_is_not_lost(self):
+        side = 16_384
+        picture = png(side, side, 16, compressed_zeros(side * (1 + 6 * side)))
+        path = self.write("a.velvane", demo(background=picture))
+        found = json.loads(Result(["inspect", path, "--json"]).out)
+        self.assertTrue(found["hasBackground"])
+
     def test_a_truncated_demo_is_refused(self):
         whole = plistlib.dumps(demo(), fmt=plistlib.FMT_BINARY)
         for length in range(0, len(whole), 37):
@@ -208,6 +344,21 @@ class CommandLine(unittest.TestCase):
             self.assertOneLine(Result(["export", path, movie]))
             with open(movie, "rb") as file:
                 self.assertEqual(file.read(), b"precious")
+
+    def test_numbers_stay_numbers_however_large(self):
+        path = self.write("a.velvane", demo(startPoint=[-1.7e308, 1.7e308], steps=[
+            {"kind": "move", "point": [1.7e308, -1.7e308], "duration": 1e308, "pauseAfter": 1e308,
+             "recordedOffset": -1.7e308},
+            {"kind": "wait", "pauseAfter": 1e308, "recordedOffset": 1.7e308}]))
+        found = json.loads(Result(["inspect", "--json", path]).out)
+        self.assertEqual(found["total"], sys.float_info.max)
+        self.assertEqual(found["segments"][1]["end"], sys.float_info.max)
+        states = json.loads(Result(["state", path, "--at", "0", "--at", "3e307", "--at", "6e307",
+                                    "--at", "1.5e308", "--at", "1.7e308", "--video-duration",
+                                    "1.7e308"]).out)
+        for state in states:
+            for number in (*state["cursor"], state["videoTime"]):
+                self.assertIsInstance(number, float)
 
     def test_an_empty_demo_is_a_movie_of_one_frame(self):
         path = self.write("a.velvane", demo(steps=[], fps=0))
@@ -260,16 +411,23 @@ class CommandLine(unittest.TestCase):
 
     def test_what_programs_read_is_the_same_in_every_language(self):
         path = self.write("a.velvane", demo(steps=[
-            {"kind": "wait", "pauseAfter": 1.5, "id": "0123ABCD-0123-ABCD-4567-0123456789AB"}]))
-        for arguments in (["inspect", path, "--json"], ["state", path, "--at", "0.5"]):
-            outputs = [Result(["--lang", code, *arguments]) for code in ("en", "de", "ja")]
-            parsed = [json.loads(result.out) for result in outputs]
-            for found in parsed:
-                if isinstance(found, dict):
-                    for step in found["steps"]:
-                        step.pop("summary")  # a sentence for people
-            self.assertEqual(parsed[0], parsed[1])
-            self.assertEqual(parsed[0], parsed[2])
+            {"kind": "wait", "pauseAfter": 1.5, "id": "0123ABCD-0123-ABCD-4567-0123456789AB"},
+            {"kind": "switchApp", "text": "", "id": "1123ABCD-0123-ABCD-4567-0123456789AB"}]))
+        for arguments in (["inspect", path, "--json"],
+                          ["state", path, "--at", "0.5", "--at", "1.6"]):
+            outputs = [Result(["--lang", code, *arguments]).out for code in ("en", "de", "ja")]
+            self.assertEqual(outputs[0], outputs[1])
+            self.assertEqual(outputs[0], outputs[2])
+            self.assertTrue("Wait 1.5s" in outputs[0] or "→ app" in outputs[0], outputs[0])
+        pictures = []
+        for code in ("en", "de", "ja"):
+            result = Result(["--lang", code, "frame", path, "--at", "1.6", "-o",
+                             self.path("app.png")])
+            self.assertEqual((result.status, result.err), (0, ""))
+            with open(self.path("app.png"), "rb") as file:
+                pictures.append(file.read())
+        self.assertEqual(pictures[0], pictures[1])
+        self.assertEqual(pictures[0], pictures[2])
         self.assertEqual(Result(["--lang", "de", "new", self.path("de.velvane")]).status, 0)
         self.assertEqual(Result(["--lang", "en", "new", self.path("en.velvane")]).status, 0)
         made = []
@@ -280,6 +438,16 @@ class CommandLine(unittest.TestCase):
                 step.pop("id")
             made.append(root)
         self.assertEqual(made[0], made[1])
+
+    def test_tables_and_faults_are_in_the_users_language(self):
+        path = self.write("a.velvane", demo(steps=[{"kind": "wait", "pauseAfter": 1.5}]))
+        self.assertIn("1,5\u00a0s warten", Result(["--lang", "de", "inspect", path]).out)
+        path = self.write("a.velvane", demo(steps=[{"kind": "wait", "pauseAfter": "long"}]))
+        self.assertEqual(Result(["--lang", "de", "inspect", path]).err,
+                         f"{path}: Schritt 1: „pauseAfter“ ist keine Zahl\n")
+        path = self.write("a.velvane", b"bplist00")
+        self.assertIn("beschädigte Eigenschaftsliste: ",
+                      Result(["--lang", "de", "inspect", path]).err)
 
     def test_any_locale_will_do(self):
         path = self.write("Démo 한.velvane", demo())
@@ -302,6 +470,31 @@ class CommandLine(unittest.TestCase):
             self.assertEqual(file.read(), before)
         self.assertEqual(os.listdir(self.folder.name), ["a.velvane"])
 
+    def test_a_full_disk_keeps_the_picture_that_was_there(self):
+        noise = os.urandom(3 * 100 * 100)
+        rows = b"".join(b"\0" + noise[300 * y:300 * (y + 1)] for y in range(100))
+        path = self.write("a.velvane", demo(background=png(100, 100, 8, zlib.compress(rows))))
+        picture = self.write("a.png", b"precious")
+        result = Result(["frame", path, "--at", "0", "-o", picture], limits=self.limited)
+        self.assertOneLine(result)
+        self.assertTrue(result.err.startswith(picture + ": "), result.err)
+        with open(picture, "rb") as file:
+            self.assertEqual(file.read(), b"precious")
+        self.assertEqual(sorted(os.listdir(self.folder.name)), ["a.png", "a.velvane"])
+
+    def test_results_that_find_no_room_are_a_failure(self):
+        path = self.write("a.velvane", demo())
+        for arguments in (["inspect", path], ["inspect", "--json", path],
+                          ["state", path, "--at", "0"], ["doctor"], ["--help"], ["--version"],
+                          ["export", path, self.path("a.mp4")]):
+            with self.subTest(arguments=arguments), open("/dev/full", "w") as full:
+                run = subprocess.run([VELVANE, *arguments], stdout=full, stderr=subprocess.PIPE,
+                                     timeout=PATIENCE)
+                self.assertEqual(run.returncode, 1)
+                lines = [line for line in run.stderr.decode().splitlines()
+                         if not line.endswith(" %")]
+                self.assertEqual(lines, ["velvane: standard output cannot be written to"])
+
     def test_an_export_onto_a_full_disk_fails_and_says_why_when_asked(self):
         steps = [{"kind": "move", "point": [k * 37.0 % 1280, k * 91.0 % 800]} for k in range(9)]
         path = self.write("a.velvane", demo(steps=steps, canvasSize=[1280.0, 800.0]))
@@ -320,10 +513,11 @@ class CommandLine(unittest.TestCase):
         path = self.write("a.velvane", demo(steps=steps, canvasSize=[1920.0, 1080.0]))
         process = subprocess.Popen([VELVANE, "export", path, self.path("a.mp4")],
                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE)
-        while process.stderr.readline() != b" 10 %\n":
-            pass
-        process.send_signal(signal.SIGINT)
-        out, _ = process.communicate()
+        with Patience(process):
+            # The end of the file is b"", again and again.
+            self.assertIn(b" 10 %\n", iter(process.stderr.readline, b""))
+            process.send_signal(signal.SIGINT)
+            out, _ = process.communicate()
         self.assertEqual((process.returncode, out), (130, b""))
         times = self.probe(self.path("a.mp4"))[1]
         self.assertGreater(len(times), 3000)
@@ -333,10 +527,11 @@ class CommandLine(unittest.TestCase):
         path = self.write("a.velvane", demo(steps=[{"kind": "wait"}] * 20_000))
         process = subprocess.Popen([VELVANE, "inspect", "--json", path], stdout=subprocess.PIPE,
                                    stderr=subprocess.PIPE)
-        process.stdout.read(10)
-        process.stdout.close()
-        process.stderr.read()
-        self.assertIn(process.wait(), (0, 1, -signal.SIGPIPE))
+        with Patience(process):
+            self.assertEqual(len(process.stdout.read(10)), 10)
+            process.stdout.close()
+            process.stderr.read()
+            self.assertIn(process.wait(), (0, 1, -signal.SIGPIPE))
 
     def test_all_commands_agree(self):
         path = self.write("a.velvane", demo())

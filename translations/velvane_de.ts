@@ -64,6 +64,11 @@
         <translation>Bild einfrieren</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>beschädigte Eigenschaftsliste: %1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>in „%1“ gibt es keine Texte, nur in %2</translation>
@@ -185,6 +190,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>auf die Standardausgabe kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>cannot be written: %1</source>
@@ -752,6 +762,76 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Bildrate ändern</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>kein Wörterbuch</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>Schritt %1: %2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist keine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist kein Wahrheitswert</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ sind keine Binärdaten</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist keine Liste</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist nicht endlich</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist keine Liste aus zwei Zahlen</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ liegt außerhalb des zulässigen Bereichs</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>„%1“ ist keine UUID: „%2“</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>unbekannte Art „%1“</translation>
+    </message>
+    <message>
         <source>cannot be written: another Velvane is writing in its folder</source>
         <extracomment>FolderLock</extracomment>
         <translation>kann nicht geschrieben werden: Ein anderes Velvane schreibt gerade in ihren Ordner</translation>
@@ -1000,6 +1080,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>in %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>mehr als %1 Schritte</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1277,66 +1362,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Leinwand %1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>Bewegen nach (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Klick</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Rechtsklick</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>Maustaste halten</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>Maustaste loslassen</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>„%1“ tippen</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>%1 drücken</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>%1 s warten</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>Zu %1 wechseln</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>Programm</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Abschnitt</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>Schritte ausschneiden</translation>
@@ -1447,6 +1472,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Die Überschrift in der Schrittliste</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>Programm</translation>
@@ -1490,6 +1520,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>Bewegen</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Klick</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Rechtsklick</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1545,6 +1585,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>Wechseln</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1797,6 +1842,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>ohne Namen</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>beschädigte Eigenschaftsliste: Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>der Bildschirm %1 kann nicht geöffnet werden</translation>
@@ -1872,6 +1922,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1 s warten</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>ist ein Ordner</translation>
@@ -1882,14 +1937,49 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>ist keine gewöhnliche Datei</translation>
     </message>
     <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>zu groß, %1 Bytes</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <extracomment>velvane</extracomment>
         <translation>keine solche Datei</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>zu groß, %1 Bytes</translation>
+        <translation>Bewegen nach (%1, %2)</translation>
+    </message>
+    <message>
+        <source>Hold mouse down</source>
+        <extracomment>velvane</extracomment>
+        <translation>Maustaste halten</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>Maustaste loslassen</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>„%1“ tippen</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1 drücken</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>Zu %1 wechseln</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>Programm</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2767,14 +2857,14 @@ BEISPIEL
         <translation>nicht genannt</translation>
     </message>
     <message>
-        <source>%1, %2 free</source>
-        <extracomment>cli</extracomment>
-        <translation>%1, %2 frei</translation>
-    </message>
-    <message>
         <source>Recordings</source>
         <extracomment>cli</extracomment>
         <translation>Aufnahmen</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, %2 frei</translation>
     </message>
     <message>
         <source>Make room there: a recording ends when the disk is full.</source>

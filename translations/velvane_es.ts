@@ -64,6 +64,11 @@
         <translation>Congelar fotograma</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>lista de propiedades dañada: %1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>no hay textos en «%1», solo en %2</translation>
@@ -185,6 +190,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>no se puede escribir en la salida estándar</translation>
     </message>
     <message>
         <source>cannot be written: %1</source>
@@ -752,6 +762,76 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Cambiar velocidad de fotogramas</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>no es un diccionario</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>paso %1: %2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>falta «%1»</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es una cadena</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es un valor booleano</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no son datos binarios</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es una lista</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es finito</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es un número</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es una lista de dos números</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es un número entero</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» está fuera del intervalo permitido</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>«%1» no es un UUID: «%2»</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>tipo desconocido «%1»</translation>
+    </message>
+    <message>
         <source>cannot be written: another Velvane is writing in its folder</source>
         <extracomment>FolderLock</extracomment>
         <translation>no se puede escribir: otro Velvane está escribiendo en su carpeta</translation>
@@ -1000,6 +1080,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>en %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>más de %1 pasos</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1277,66 +1362,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Lienzo %1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>Mover a (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Clic</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Clic derecho</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>Mantener pulsado el ratón</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>Soltar el ratón</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>Escribir «%1»</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>Atajo</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>Pulsar %1</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>Esperar %1 s</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>Cambiar a %1</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>aplicación</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Sección</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>Cortar pasos</translation>
@@ -1447,6 +1472,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>El título en la lista de pasos</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>Atajo</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>App</translation>
@@ -1490,6 +1520,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Clic derecho</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1545,6 +1585,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Sección</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1797,6 +1842,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>sin nombre</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>lista de propiedades dañada: línea %1, columna %2: %3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>no se puede abrir la pantalla %1</translation>
@@ -1872,6 +1922,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>A&amp;yuda</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>Esperar %1 s</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>es una carpeta</translation>
@@ -1882,14 +1937,49 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>no es un archivo normal</translation>
     </message>
     <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>demasiado grande, %1 bytes</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <extracomment>velvane</extracomment>
         <translation>no existe el archivo</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>demasiado grande, %1 bytes</translation>
+        <translation>Mover a (%1, %2)</translation>
+    </message>
+    <message>
+        <source>Hold mouse down</source>
+        <extracomment>velvane</extracomment>
+        <translation>Mantener pulsado el ratón</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>Soltar el ratón</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>Escribir «%1»</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>Pulsar %1</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>Cambiar a %1</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>aplicación</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2764,14 +2854,14 @@ EJEMPLO
         <translation>no indicada</translation>
     </message>
     <message>
-        <source>%1, %2 free</source>
-        <extracomment>cli</extracomment>
-        <translation>%1, %2 libres</translation>
-    </message>
-    <message>
         <source>Recordings</source>
         <extracomment>cli</extracomment>
         <translation>Grabaciones</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, %2 libres</translation>
     </message>
     <message>
         <source>Make room there: a recording ends when the disk is full.</source>

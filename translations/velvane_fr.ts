@@ -64,6 +64,11 @@
         <translation>Figer l’image</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>liste de propriétés endommagée : %1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>il n’y a pas de textes en « %1 », seulement en %2</translation>
@@ -185,6 +190,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>impossible d’écrire sur la sortie standard</translation>
     </message>
     <message>
         <source>cannot be written: %1</source>
@@ -752,6 +762,76 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Modifier la cadence</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>pas un dictionnaire</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>étape %1 : %2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » manque</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas une chaîne</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas un booléen</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas une donnée binaire</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas un tableau</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas fini</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas un tableau de deux nombres</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas un entier</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » est hors limites</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>« %1 » n’est pas un UUID : « %2 »</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>type inconnu « %1 »</translation>
+    </message>
+    <message>
         <source>cannot be written: another Velvane is writing in its folder</source>
         <extracomment>FolderLock</extracomment>
         <translation>ne peut pas être écrit : un autre Velvane est en train d’écrire dans son dossier</translation>
@@ -1000,6 +1080,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>en %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>plus de %1 étapes</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1277,66 +1362,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Canevas %1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>Aller à (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Clic</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Clic droit</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>Maintenir le bouton enfoncé</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>Relâcher le bouton</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>Saisir « %1 »</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>Raccourci</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>Appuyer sur %1</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>Attendre %1 s</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>Passer à %1</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>une app</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>Section</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>Couper les étapes</translation>
@@ -1447,6 +1472,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Le titre dans la liste des étapes</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>Raccourci</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>App</translation>
@@ -1490,6 +1520,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>Aller</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Clic droit</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1545,6 +1585,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>Basculer</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>Section</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1797,6 +1842,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>sans nom</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>liste de propriétés endommagée : ligne %1, colonne %2 : %3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>l’écran %1 ne peut pas être ouvert</translation>
@@ -1872,6 +1922,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>A&amp;ide</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>Attendre %1 s</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>est un dossier</translation>
@@ -1882,14 +1937,49 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>n’est pas un fichier ordinaire</translation>
     </message>
     <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>trop grand, %1 octets</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <extracomment>velvane</extracomment>
         <translation>fichier inexistant</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>trop grand, %1 octets</translation>
+        <translation>Aller à (%1, %2)</translation>
+    </message>
+    <message>
+        <source>Hold mouse down</source>
+        <extracomment>velvane</extracomment>
+        <translation>Maintenir le bouton enfoncé</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>Relâcher le bouton</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>Saisir « %1 »</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>Appuyer sur %1</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>Passer à %1</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>une app</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2764,14 +2854,14 @@ EXEMPLE
         <translation>non indiquée</translation>
     </message>
     <message>
-        <source>%1, %2 free</source>
-        <extracomment>cli</extracomment>
-        <translation>%1, %2 libres</translation>
-    </message>
-    <message>
         <source>Recordings</source>
         <extracomment>cli</extracomment>
         <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1, %2 libres</translation>
     </message>
     <message>
         <source>Make room there: a recording ends when the disk is full.</source>

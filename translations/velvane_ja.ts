@@ -64,6 +64,11 @@
         <translation>画面を静止</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>壊れたプロパティリスト: %1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>「%1」のテキストはありません。あるのは %2 だけです</translation>
@@ -185,6 +190,11 @@ Results go to standard output, messages and progress to standard error.
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>標準出力に書き込めません</translation>
     </message>
     <message>
         <source>cannot be written: %1</source>
@@ -752,6 +762,76 @@ Results go to standard output, messages and progress to standard error.
         <translation>フレームレートを変更</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>辞書ではありません</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>ステップ%1: %2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」がありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が文字列ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が真偽値ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」がバイナリデータではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が配列ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が有限の値ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が数値ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が2つの数値の配列ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が整数ではありません</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」が範囲外です</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>「%1」がUUIDではありません: 「%2」</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>不明な種類「%1」</translation>
+    </message>
+    <message>
         <source>cannot be written: another Velvane is writing in its folder</source>
         <extracomment>FolderLock</extracomment>
         <translation>書き込めません: 別のVelvaneがこのフォルダーに書き込み中です</translation>
@@ -1000,6 +1080,11 @@ Results go to standard output, messages and progress to standard error.
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>所要時間 %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>ステップが%1個を超えています</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1277,66 +1362,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>キャンバス%1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>(%1, %2)へ移動</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>クリック</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>右クリック</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>マウスボタンを押し続ける</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>マウスボタンを放す</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>「%1」と入力</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>ショートカット</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>%1を押す</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>%1秒待つ</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>%1に切り替え</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>アプリ</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>セクション</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>ステップを切り取り</translation>
@@ -1447,6 +1472,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>ステップ一覧での見出し</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>アプリ</translation>
@@ -1490,6 +1520,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>移動</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>クリック</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>右クリック</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1545,6 +1585,11 @@ Results go to standard output, messages and progress to standard error.
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>切替</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>セクション</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1797,6 +1842,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>名前なし</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>壊れたプロパティリスト: %1行%2列: %3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>ディスプレイ%1を開けません</translation>
@@ -1872,6 +1922,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1秒待つ</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>フォルダーです</translation>
@@ -1882,14 +1937,49 @@ Results go to standard output, messages and progress to standard error.
         <translation>通常のファイルではありません</translation>
     </message>
     <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>大きすぎます(%1バイト)</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <extracomment>velvane</extracomment>
         <translation>ファイルがありません</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>大きすぎます(%1バイト)</translation>
+        <translation>(%1, %2)へ移動</translation>
+    </message>
+    <message>
+        <source>Hold mouse down</source>
+        <extracomment>velvane</extracomment>
+        <translation>マウスボタンを押し続ける</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>マウスボタンを放す</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>「%1」と入力</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1を押す</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>%1に切り替え</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>アプリ</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2759,14 +2849,14 @@ EXAMPLE
         <translation>不明</translation>
     </message>
     <message>
-        <source>%1, %2 free</source>
-        <extracomment>cli</extracomment>
-        <translation>%1、空き%2</translation>
-    </message>
-    <message>
         <source>Recordings</source>
         <extracomment>cli</extracomment>
         <translation>録画</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1、空き%2</translation>
     </message>
     <message>
         <source>Make room there: a recording ends when the disk is full.</source>

@@ -64,6 +64,11 @@
         <translation>冻结画面</translation>
     </message>
     <message>
+        <source>damaged property list: %1</source>
+        <extracomment>BinaryObjects</extracomment>
+        <translation>属性列表已损坏：%1</translation>
+    </message>
+    <message>
         <source>there are no texts in “%1”, only in %2</source>
         <extracomment>CLI</extracomment>
         <translation>没有“%1”的文本，仅有 %2</translation>
@@ -184,6 +189,11 @@ Results go to standard output, messages and progress to standard error.
         <source>not enough memory</source>
         <extracomment>CommandLine</extracomment>
         <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to</source>
+        <extracomment>CommandLine</extracomment>
+        <translation>无法写入标准输出</translation>
     </message>
     <message>
         <source>cannot be written: %1</source>
@@ -751,6 +761,76 @@ Results go to standard output, messages and progress to standard error.
         <translation>更改帧率</translation>
     </message>
     <message>
+        <source>not a dictionary</source>
+        <extracomment>Fields</extracomment>
+        <translation>不是字典</translation>
+    </message>
+    <message>
+        <source>step %1: %2</source>
+        <extracomment>Fields</extracomment>
+        <translation>步骤 %1：%2</translation>
+    </message>
+    <message>
+        <source>missing “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>“%1” is not a string</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是字符串</translation>
+    </message>
+    <message>
+        <source>“%1” is not a boolean</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是布尔值</translation>
+    </message>
+    <message>
+        <source>“%1” is not data</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是二进制数据</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是数组</translation>
+    </message>
+    <message>
+        <source>“%1” is not finite</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是有限数值</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是数字</translation>
+    </message>
+    <message>
+        <source>“%1” is not an array of two numbers</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是由两个数字组成的数组</translation>
+    </message>
+    <message>
+        <source>“%1” is not an integer</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>“%1” is out of range</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”超出范围</translation>
+    </message>
+    <message>
+        <source>“%1” is not a UUID: “%2”</source>
+        <extracomment>Fields</extracomment>
+        <translation>“%1”不是 UUID：“%2”</translation>
+    </message>
+    <message>
+        <source>unknown kind “%1”</source>
+        <extracomment>Fields</extracomment>
+        <translation>未知类型“%1”</translation>
+    </message>
+    <message>
         <source>cannot be written: another Velvane is writing in its folder</source>
         <extracomment>FolderLock</extracomment>
         <translation>无法写入：另一个 Velvane 正在写入其文件夹</translation>
@@ -999,6 +1079,11 @@ Results go to standard output, messages and progress to standard error.
         <source>in %1</source>
         <extracomment>ProgressBar</extracomment>
         <translation>用时 %1</translation>
+    </message>
+    <message>
+        <source>more than %1 steps</source>
+        <extracomment>ProjectFile, velvane</extracomment>
+        <translation>步骤超过 %1 个</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1276,66 +1361,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>画布 %1</translation>
     </message>
     <message>
-        <source>Move to (%1, %2)</source>
-        <extracomment>Step</extracomment>
-        <translation>移动到 (%1, %2)</translation>
-    </message>
-    <message>
-        <source>Click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>点击</translation>
-    </message>
-    <message>
-        <source>Right-click</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>右键点击</translation>
-    </message>
-    <message>
-        <source>Hold mouse down</source>
-        <extracomment>Step</extracomment>
-        <translation>按住鼠标</translation>
-    </message>
-    <message>
-        <source>Release mouse</source>
-        <extracomment>Step</extracomment>
-        <translation>松开鼠标</translation>
-    </message>
-    <message>
-        <source>Type "%1"</source>
-        <extracomment>Step</extracomment>
-        <translation>输入“%1”</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <extracomment>Step, StepForm</extracomment>
-        <translation>快捷键</translation>
-    </message>
-    <message>
-        <source>Press %1</source>
-        <extracomment>Step</extracomment>
-        <translation>按 %1</translation>
-    </message>
-    <message>
-        <source>Wait %1s</source>
-        <extracomment>Step, velvane</extracomment>
-        <translation>等待 %1 秒</translation>
-    </message>
-    <message>
-        <source>Switch to %1</source>
-        <extracomment>Step</extracomment>
-        <translation>切换到 %1</translation>
-    </message>
-    <message>
-        <source>app</source>
-        <extracomment>Step</extracomment>
-        <translation>应用</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <extracomment>Step, StepKind</extracomment>
-        <translation>分节</translation>
-    </message>
-    <message>
         <source>Cut Steps</source>
         <extracomment>StepClipboard</extracomment>
         <translation>剪切步骤</translation>
@@ -1446,6 +1471,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>步骤列表中的标题</translation>
     </message>
     <message>
+        <source>Shortcut</source>
+        <extracomment>StepForm, velvane</extracomment>
+        <translation>快捷键</translation>
+    </message>
+    <message>
         <source>App</source>
         <extracomment>StepForm</extracomment>
         <translation>应用</translation>
@@ -1489,6 +1519,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Move</source>
         <extracomment>StepKind</extracomment>
         <translation>移动</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>点击</translation>
+    </message>
+    <message>
+        <source>Right-click</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>右键点击</translation>
     </message>
     <message>
         <source>Right</source>
@@ -1544,6 +1584,11 @@ Results go to standard output, messages and progress to standard error.
         <source>Switch</source>
         <extracomment>StepKind</extracomment>
         <translation>切换</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <extracomment>StepKind, velvane</extracomment>
+        <translation>分节</translation>
     </message>
     <message>
         <source>Reorder Steps</source>
@@ -1796,6 +1841,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>无名称</translation>
     </message>
     <message>
+        <source>damaged property list: line %1, column %2: %3</source>
+        <extracomment>XmlReader</extracomment>
+        <translation>属性列表已损坏：第 %1 行第 %2 列：%3</translation>
+    </message>
+    <message>
         <source>the display %1 cannot be opened</source>
         <extracomment>cli</extracomment>
         <translation>无法打开显示器 %1</translation>
@@ -1871,6 +1921,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
+        <source>Wait %1s</source>
+        <extracomment>velvane</extracomment>
+        <translation>等待 %1 秒</translation>
+    </message>
+    <message>
         <source>is a folder</source>
         <extracomment>velvane</extracomment>
         <translation>是文件夹</translation>
@@ -1881,14 +1936,49 @@ Results go to standard output, messages and progress to standard error.
         <translation>不是普通文件</translation>
     </message>
     <message>
+        <source>too large, %1 bytes</source>
+        <extracomment>velvane</extracomment>
+        <translation>过大，%1 字节</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <extracomment>velvane</extracomment>
         <translation>没有此文件</translation>
     </message>
     <message>
-        <source>too large, %1 bytes</source>
+        <source>Move to (%1, %2)</source>
         <extracomment>velvane</extracomment>
-        <translation>过大，%1 字节</translation>
+        <translation>移动到 (%1, %2)</translation>
+    </message>
+    <message>
+        <source>Hold mouse down</source>
+        <extracomment>velvane</extracomment>
+        <translation>按住鼠标</translation>
+    </message>
+    <message>
+        <source>Release mouse</source>
+        <extracomment>velvane</extracomment>
+        <translation>松开鼠标</translation>
+    </message>
+    <message>
+        <source>Type "%1"</source>
+        <extracomment>velvane</extracomment>
+        <translation>输入“%1”</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>按 %1</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <extracomment>velvane</extracomment>
+        <translation>切换到 %1</translation>
+    </message>
+    <message>
+        <source>app</source>
+        <extracomment>velvane</extracomment>
+        <translation>应用</translation>
     </message>
     <message>
         <source>Driving the mouse and keyboard</source>
@@ -2751,14 +2841,14 @@ EXAMPLE
         <translation>未说明</translation>
     </message>
     <message>
-        <source>%1, %2 free</source>
-        <extracomment>cli</extracomment>
-        <translation>%1，剩余 %2</translation>
-    </message>
-    <message>
         <source>Recordings</source>
         <extracomment>cli</extracomment>
         <translation>录像</translation>
+    </message>
+    <message>
+        <source>%1, %2 free</source>
+        <extracomment>cli</extracomment>
+        <translation>%1，剩余 %2</translation>
     </message>
     <message>
         <source>Make room there: a recording ends when the disk is full.</source>

@@ -1,6 +1,8 @@
 #include "app/RecentDemos.h"
 
 #include "base/Background.h"
+#include "base/WholeFile.h"
+#include "model/Picture.h"
 #include "render/FrameRenderer.h"
 #include "timeline/Timeline.h"
 
@@ -9,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace velvane {
@@ -39,10 +40,8 @@ void writePicture(const QString &file, const Snapshot &demo)
 {
     // A picture that cannot be kept is done without.
     QDir().mkpath(QFileInfo(file).absolutePath());
-    QSaveFile saved(file);
-    const QImage picture = firstFrame(demo);
-    if (!picture.isNull() && saved.open(QIODevice::WriteOnly) && picture.save(&saved, "PNG"))
-        saved.commit();
+    if (const auto picture = Picture::encoded(firstFrame(demo)))
+        WholeFile::write(file, *picture);
 }
 
 } // namespace

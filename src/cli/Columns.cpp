@@ -1,5 +1,7 @@
 #include "cli/Columns.h"
 
+#include "base/Graphemes.h"
+
 #include <algorithm>
 #include <cwchar>
 
@@ -14,6 +16,21 @@ int width(const QString &text)
         columns += own < 0 ? 1 : own;
     }
     return columns;
+}
+
+QString cut(const QString &text, int columns)
+{
+    constexpr int ellipsis = 1;
+    QString start;
+    int used = 0;
+    for (const QString &character : Graphemes::split(text)) {
+        const int own = width(character);
+        if (used + own > columns - ellipsis)
+            return width(text) <= columns ? text : start + QChar(0x2026);
+        used += own;
+        start += character;
+    }
+    return text;
 }
 
 QString left(const QString &text, int columns)

@@ -9,6 +9,8 @@ namespace velvane::cli {
 namespace Columns {
 
 int width(const QString &text);
+/// The text, or as many of its characters as leave room for an ellipsis, within a width.
+QString cut(const QString &text, int columns);
 /// The text with blanks behind it, or before it, up to a width; longer text stays as it is.
 QString left(const QString &text, int columns);
 QString right(const QString &text, int columns);

@@ -22,6 +22,16 @@ TEST(Columns, BlanksFillAColumn)
     EXPECT_EQ(Columns::right(QString::fromUtf8("画面"), 6), QString::fromUtf8("  画面"));
 }
 
+TEST(Columns, CutTextFitsItsColumns)
+{
+    EXPECT_EQ(Columns::cut("Rate", 4), "Rate");
+    EXPECT_EQ(Columns::cut("Rates", 4), QString::fromUtf8("Rat…"));
+    EXPECT_EQ(Columns::cut(QString::fromUtf8("画面を"), 6), QString::fromUtf8("画面を"));
+    EXPECT_EQ(Columns::cut(QString::fromUtf8("画面を見"), 6), QString::fromUtf8("画面…"));
+    EXPECT_EQ(Columns::cut(QString::fromUtf8("e\u0301e\u0301e"), 2), QString::fromUtf8("e\u0301…"));
+    EXPECT_EQ(Columns::cut("", 3), "");
+}
+
 TEST(Columns, LongerTextStaysAsItIs)
 {
     EXPECT_EQ(Columns::left("Rate", 3), "Rate");

@@ -97,7 +97,7 @@ std::optional<int> CommandLine::parse(int argc, const char *const *argv)
         return {};
     } catch (const CLI::Success &help) {
         m_app->exit(help, m_console.out, m_console.err);
-        return success;
+        return delivered() ? success : failure;
     } catch (const CLI::ParseError &error) {
         m_console.err << "velvane: " << printable(QString::fromLocal8Bit(error.what())) << ' '
                       << help("(see velvane --help)") << '\n';
@@ -113,13 +113,25 @@ bool CommandLine::showsPanel() const
 int CommandLine::run()
 {
     try {
-        return m_action();
+        const int status = m_action();
+        return delivered() ? status : failure;
     } catch (const CommandError &error) {
-        m_console.err << error.what() << '\n';
+        m_console.err << printable(error.message()) << '\n';
+        if (!error.detail().isEmpty())
+            m_console.err << printable(error.detail()) << '\n';
     } catch (const std::bad_alloc &) {
         m_console.err << "velvane: " << help("not enough memory") << '\n';
     }
     return failure;
+}
+
+// What is printed may lie in a buffer until now.
+bool CommandLine::delivered()
+{
+    if (m_console.out.flush())
+        return true;
+    m_console.err << "velvane: " << help("standard output cannot be written to") << '\n';
+    return false;
 }
 
 } // namespace velvane::cli

@@ -14,7 +14,7 @@ public:
     ~CommandLine();
 
     /// Reads the arguments. Returns an exit status when there is nothing more to do: after help
-    /// (0) and after wrong usage (2, with one line on err).
+    /// (0, or 1 when it cannot be printed) and after wrong usage (2, with one line on err).
     std::optional<int> parse(int argc, const char *const *argv);
 
     /// Was a subcommand named? Otherwise demos() are to be opened in a window.
@@ -32,6 +32,9 @@ public:
     int run();
 
 private:
+    /// Has all of the results arrived? Says so on err if not.
+    bool delivered();
+
     Console m_console;
     std::unique_ptr<CLI::App> m_app;
     Action m_action;

@@ -15,15 +15,26 @@ struct Console {
     bool interactive = false;
 };
 
-/// Why a subcommand failed, in one line. It ends with exit status 1.
+/// Why a subcommand failed, in one line, and what may be said on a second one. It ends with exit
+/// status 1. Names and texts stand in it as they are: printing makes them harmless.
 class CommandError : public std::runtime_error {
 public:
-    explicit CommandError(const QString &message) : runtime_error(message.toStdString()) {}
+    explicit CommandError(const QString &message, const QString &detail = {})
+        : runtime_error(message.toStdString())
+        , m_detail(detail)
+    {}
+
+    QString message() const { return QString::fromStdString(what()); }
+    /// Empty for none.
+    const QString &detail() const { return m_detail; }
+
+private:
+    QString m_detail;
 };
 
 /// The text on one line, without characters that steer a terminal and not endlessly long: what a
-/// file holds may be anything.
-std::string printable(const QString &text, qsizetype maxLength = 300);
+/// file holds may be anything. A message with the longest path of a file in it stays whole.
+std::string printable(const QString &text);
 
 /// A text in the user's language.
 QString tr(const char *english);

@@ -1,5 +1,7 @@
 #include "cli/Console.h"
 
+#include "support/Print.h"
+
 #include <gtest/gtest.h>
 
 namespace velvane::cli {
@@ -11,9 +13,11 @@ TEST(Console, PrintableTextStaysOnOneLineAndSteersNoTerminal)
     EXPECT_EQ(printable(QString::fromUtf8("né 한 👍")), "né 한 👍");
 }
 
-TEST(Console, PrintableTextIsNotEndless)
+TEST(Console, PrintableTextIsNotEndlessButHoldsTheLongestPath)
 {
-    EXPECT_EQ(printable(QString(1000, 'x'), 5), "xxxxx…");
+    const QString path(4096, u'x');
+    EXPECT_EQ(printable(path + ": no such file"), std::string(4096, 'x') + ": no such file");
+    EXPECT_LT(printable(QString(1'000'000, u'x')).size(), 6000U);
 }
 
 } // namespace velvane::cli

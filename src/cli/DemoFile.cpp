@@ -16,7 +16,7 @@ ProjectFile readRecord(const std::string &path)
     try {
         return DemoDocument::readFile(name);
     } catch (const DocumentError &error) {
-        throw CommandError(QString::fromStdString(printable(name + ": " + error.message())));
+        throw CommandError(name + ": " + error.message());
     }
 }
 
@@ -26,7 +26,7 @@ void writeDemo(const ProjectFile &file, const QString &path)
     const FolderLock lock(path);
     const auto held = lock.refusal();
     if (const auto failure = held ? held : DemoDocument::write(file, path))
-        throw CommandError(QString::fromStdString(printable(path + ": " + *failure)));
+        throw CommandError(path + ": " + *failure);
 }
 
 } // namespace velvane::cli

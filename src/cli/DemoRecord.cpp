@@ -28,7 +28,7 @@ void checkWritable(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.isWritable() || !QFileInfo(file.absolutePath()).isWritable())
-        throw CommandError(QString::fromStdString(printable(tr("%1: is not writable").arg(path))));
+        throw CommandError(tr("%1: is not writable").arg(path));
 }
 
 QString sizeText(QSizeF size)

@@ -1,5 +1,6 @@
 #include "cli/DemoReport.h"
 
+#include "base/PlainLine.h"
 #include "cli/Columns.h"
 #include "cli/Console.h"
 #include "model/StepList.h"
@@ -23,7 +24,7 @@ Json stepJson(const Step &step, std::optional<int> number, bool visible)
             {"collapsed", step.collapsed},
             {"recordedOffset", jsonOr(step.recordedOffset, [](Seconds s) { return s.count(); })},
             {"number", jsonOr(number, [](int n) { return n; })},
-            {"summary", json(step.summary())},
+            {"summary", json(step.englishSummary())},
             {"shortcutDisplay", json(step.shortcutDisplay())},
             {"visible", visible}};
 }
@@ -74,10 +75,10 @@ QString plain(double number)
 
 void printRow(std::ostream &out, const QString &number, const QString &what, const QString &times)
 {
-    constexpr int width = 46;
-    const QString summary = QString::fromStdString(printable(what, width));
-    const QString row = number.rightJustified(4) + "  " + summary;
-    out << (times.isEmpty() ? row : Columns::left(row, width + 7) + times).toStdString() << '\n';
+    constexpr int width = 47;
+    const QString row =
+        number.rightJustified(4) + "  " + Columns::cut(plainLine(what, width), width);
+    out << (times.isEmpty() ? row : Columns::left(row, width + 6) + times).toStdString() << '\n';
 }
 
 void printSettings(const Project &project, Seconds total, std::ostream &out)

@@ -29,8 +29,7 @@ std::optional<QUuid> checked(const QList<Step> &steps, Desktop &desktop, const Q
         return {};
     const auto step = stepNamed(steps, from);
     if (!from.isEmpty() && !step)
-        throw CommandError(
-            tr("there is no step “%1”").arg(QString::fromStdString(printable(from))));
+        throw CommandError(tr("there is no step “%1”").arg(from));
     // In a terminal no page of settings is opened.
     const QString withheld = desktop.permissions().explanation(Permission::accessibility);
     if (!withheld.isEmpty())

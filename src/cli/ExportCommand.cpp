@@ -35,12 +35,9 @@ void render(const Snapshot &snap, const QString &path, Console &console, const I
     Waiting::forTask(Exporter::exportTo(snap, path, progress, cancelled));
 }
 
-QString reasonLine(const QString &description, const QString &reason, bool verbose)
+CommandError failure(const QString &description, const QString &detail = {})
 {
-    QString line = tr("Export failed: %1").arg(description);
-    if (!verbose || reason.isEmpty())
-        return line;
-    return line + '\n' + QString::fromStdString(printable(reason));
+    return CommandError(tr("Export failed: %1").arg(description), detail);
 }
 
 int exportMovie(const Options &options, Console &console)
@@ -57,9 +54,9 @@ int exportMovie(const Options &options, Console &console)
         console.err << printable(tr("Export cancelled; %1 holds what was done.").arg(name)) << '\n';
         return interrupt.exitStatus();
     } catch (const ExportError &error) {
-        throw CommandError(reasonLine(error.description(), error.reason(), options.verbose));
+        throw failure(error.description(), options.verbose ? error.reason() : QString());
     } catch (const MovieError &error) {
-        throw CommandError(reasonLine(error.reason(), {}, false));
+        throw failure(error.reason());
     }
     console.out << printable(tr("Exported to %1.").arg(name)) << '\n';
     return 0;

@@ -1,13 +1,15 @@
 #include "base/FileStamp.h"
+#include "base/WholeFile.h"
 #include "cli/Commands.h"
 #include "cli/DemoFile.h"
 #include "cli/Validators.h"
+#include "model/Picture.h"
 #include "render/FrameRenderer.h"
 #include "timeline/Timeline.h"
 
-#include <QImageWriter>
 #include <QPainter>
-#include <QSaveFile>
+
+#include <new>
 
 namespace velvane::cli {
 
@@ -44,12 +46,12 @@ QImage fitted(const QImage &picture, int size)
 
 void writePng(const QImage &picture, const QString &path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        throw CommandError(path + ": " + file.errorString());
-    QImageWriter writer(&file, "png");
-    if (!writer.write(picture) || !file.commit())
-        throw CommandError(path + ": " + file.errorString());
+    const auto bytes = Picture::encoded(picture);
+    // Any picture can be encoded; only memory may be missing for it.
+    if (!bytes)
+        throw std::bad_alloc();
+    if (const auto failure = WholeFile::write(path, *bytes))
+        throw CommandError(path + ": " + *failure);
 }
 
 int renderFrame(const Options &options)
@@ -62,9 +64,9 @@ int renderFrame(const Options &options)
     const QImage frame = FrameRenderer::image(snap, Timeline(snap).state(Seconds(options.at)));
     if (frame.isNull())
         throw CommandError(tr("%1: a canvas of %2 × %3 cannot be drawn")
-                               .arg(fileName(options.demo))
-                               .arg(snap.canvasSize.width())
-                               .arg(snap.canvasSize.height()));
+                               .arg(fileName(options.demo),
+                                    QString::number(snap.canvasSize.width()),
+                                    QString::number(snap.canvasSize.height())));
     writePng(fitted(flattened(frame), options.size), path);
     return 0;
 }

@@ -15,8 +15,11 @@ namespace velvane {
 
 namespace {
 
-// Bytes; far more than a demo with the largest backdrop takes.
-constexpr qint64 maxFileSize = qint64(1) << 30;
+// Bytes. A demo's weight is that of its backdrop: a large screen's picture takes less than half of
+// this. Reading takes twice a binary file's bytes of memory; an XML file's three times for data and
+// six times for a comment.
+constexpr qint64 maxBinarySize = qint64(192) << 20;
+constexpr qint64 maxXmlSize = qint64(72) << 20;
 
 QString tr(const char *english)
 {
@@ -50,7 +53,44 @@ std::optional<QString> obstacle(const QFileInfo &info)
     return {};
 }
 
-QByteArray bytesOf(const QString &path)
+QString tooLarge(qint64 size)
+{
+    return tr("too large, %1 bytes").arg(size);
+}
+
+// What could not be read again is not written: it would take the place of what can.
+std::optional<QString> writeReadable(const ProjectFile &file, const QString &path)
+{
+    if (file.steps.size() > ProjectFile::maxSteps)
+        return tr("more than %1 steps").arg(ProjectFile::maxSteps);
+    const QByteArray bytes = DemoDocument::contents(file);
+    if (bytes.size() > maxBinarySize)
+        return tooLarge(bytes.size());
+    return WholeFile::write(path, bytes);
+}
+
+QByteArray bytesOf(QFile &file)
+{
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw DocumentError(file.errorString());
+    return bytes;
+}
+
+// Piece by piece: as text it takes twice its bytes already.
+PropertyList xmlOf(QFile &file)
+{
+    try {
+        return XmlReader::read(file);
+    } catch (const DocumentError &) {
+        // To the reader the file just ends there.
+        if (file.error() != QFileDevice::NoError)
+            throw DocumentError(file.errorString());
+        throw;
+    }
+}
+
+PropertyList propertyListAt(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -60,15 +100,14 @@ QByteArray bytesOf(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw DocumentError(file.errorString());
-    if (file.size() > maxFileSize)
-        throw DocumentError(tr("too large, %1 bytes").arg(file.size()));
     constexpr qint64 aFew = 16;
-    if (!looksReadable(file.peek(aFew)))
+    const QByteArray start = file.peek(aFew);
+    const bool isBinary = BinaryReader::recognises(start);
+    if (file.size() > (isBinary ? maxBinarySize : maxXmlSize))
+        throw DocumentError(tooLarge(file.size()));
+    if (!looksReadable(start))
         throw DocumentError(tr("not a property list"));
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw DocumentError(file.errorString());
-    return bytes;
+    return isBinary ? BinaryReader::read(bytesOf(file)) : xmlOf(file);
 }
 
 } // namespace
@@ -87,7 +126,7 @@ std::unique_ptr<DemoDocument> DemoDocument::read(const QString &path)
 
 ProjectFile DemoDocument::readFile(const QString &path)
 {
-    return fileOf(bytesOf(path));
+    return ProjectFile::from(propertyListAt(path));
 }
 
 ProjectFile DemoDocument::fileOf(const QByteArray &contents)
@@ -112,7 +151,7 @@ std::optional<QString> DemoDocument::write(const ProjectFile &file, const QStrin
         if (auto found = obstacle(existing))
             return found;
     }
-    if (const auto failure = WholeFile::write(path, contents(file)))
+    if (const auto failure = writeReadable(file, path))
         return tr("cannot be written: %1").arg(*failure);
     return {};
 }

@@ -1,13 +1,20 @@
 #include "model/Fields.h"
 
+#include "base/PlainLine.h"
 #include "model/DocumentError.h"
-#include "model/Excerpt.h"
+
+#include <QCoreApplication>
 
 #include <cmath>
 
 namespace velvane {
 
 namespace {
+
+QString tr(const char *english)
+{
+    return QCoreApplication::translate("Fields", english);
+}
 
 // Strictly 8-4-4-4-12 hexadecimal digits; QUuid's own reading is more generous.
 std::optional<QUuid> uuid(const QString &text)
@@ -31,22 +38,22 @@ Fields::Fields(const PropertyList &record, qsizetype step)
     , m_step(step)
 {
     if (!m_entries)
-        fail(QStringLiteral("not a dictionary"));
+        fail(tr("not a dictionary"));
 }
 
 void Fields::fail(const QString &what) const
 {
-    throw DocumentError(m_step == 0 ? what : QStringLiteral("step %1: %2").arg(m_step).arg(what));
+    throw DocumentError(m_step == 0 ? what : tr("step %1: %2").arg(m_step).arg(what));
 }
 
 void Fields::fail(const QString &key, const char *what) const
 {
-    fail(QStringLiteral("“%1” %2").arg(key, QLatin1String(what)));
+    fail(tr(what).arg(key));
 }
 
 void Fields::failMissing(const QString &key) const
 {
-    fail(QStringLiteral("missing “%1”").arg(key));
+    fail(tr("missing “%1”").arg(key));
 }
 
 template <typename T>
@@ -62,17 +69,17 @@ std::optional<T> Fields::held(const QString &key, const char *what) const
 
 std::optional<QString> Fields::text(const QString &key) const
 {
-    return held<QString>(key, "is not a string");
+    return held<QString>(key, QT_TRANSLATE_NOOP("Fields", "“%1” is not a string"));
 }
 
 std::optional<bool> Fields::truth(const QString &key) const
 {
-    return held<bool>(key, "is not a boolean");
+    return held<bool>(key, QT_TRANSLATE_NOOP("Fields", "“%1” is not a boolean"));
 }
 
 std::optional<QByteArray> Fields::data(const QString &key) const
 {
-    return held<QByteArray>(key, "is not data");
+    return held<QByteArray>(key, QT_TRANSLATE_NOOP("Fields", "“%1” is not data"));
 }
 
 const PropertyList::Array &Fields::array(const QString &key) const
@@ -82,7 +89,7 @@ const PropertyList::Array &Fields::array(const QString &key) const
         failMissing(key);
     if (const auto *items = value->as<PropertyList::Array>())
         return *items;
-    fail(key, "is not an array");
+    fail(key, QT_TRANSLATE_NOOP("Fields", "“%1” is not an array"));
 }
 
 double Fields::number(const QString &key, const PropertyList &value, const char *what) const
@@ -97,14 +104,16 @@ double Fields::number(const QString &key, const PropertyList &value, const char 
     else
         fail(key, what);
     if (!std::isfinite(result))
-        fail(key, "is not finite");
+        fail(key, QT_TRANSLATE_NOOP("Fields", "“%1” is not finite"));
     return result;
 }
 
 std::optional<double> Fields::real(const QString &key) const
 {
     const PropertyList *value = find(*m_entries, key);
-    return value ? std::optional(number(key, *value, "is not a number")) : std::nullopt;
+    return value ? std::optional(
+               number(key, *value, QT_TRANSLATE_NOOP("Fields", "“%1” is not a number")))
+                 : std::nullopt;
 }
 
 std::optional<Seconds> Fields::seconds(const QString &key) const
@@ -115,7 +124,8 @@ std::optional<Seconds> Fields::seconds(const QString &key) const
 
 std::optional<QPointF> Fields::point(const QString &key) const
 {
-    constexpr const char *wrongType = "is not an array of two numbers";
+    constexpr const char *wrongType =
+        QT_TRANSLATE_NOOP("Fields", "“%1” is not an array of two numbers");
     const auto items = held<PropertyList::Array>(key, wrongType);
     if (!items)
         return {};
@@ -135,13 +145,13 @@ std::optional<Fields::Whole> Fields::whole(const QString &key) const
         return *large;
     const auto *real = value->as<double>();
     if (!real || std::trunc(*real) != *real)
-        fail(key, "is not an integer");
+        fail(key, QT_TRANSLATE_NOOP("Fields", "“%1” is not an integer"));
     // Both ends are doubles themselves, so nothing between them is rounded.
     if (*real >= -0x1p63 && *real < 0x1p63)
         return qint64(*real);
     if (*real >= 0 && *real < 0x1p64)
         return quint64(*real);
-    fail(key, "is out of range");
+    fail(key, QT_TRANSLATE_NOOP("Fields", "“%1” is out of range"));
 }
 
 std::optional<QUuid> Fields::id(const QString &key) const
@@ -151,7 +161,8 @@ std::optional<QUuid> Fields::id(const QString &key) const
         return {};
     const std::optional<QUuid> found = uuid(*value);
     if (!found)
-        fail(QStringLiteral("“%1” is not a UUID: “%2”").arg(key, excerpt(*value)));
+        fail(
+            tr("“%1” is not a UUID: “%2”").arg(key, plainLine(*value, PropertyList::longestQuote)));
     return found;
 }
 
@@ -160,7 +171,7 @@ StepKind Fields::kind(const QString &key) const
     const QString name = required(key, text(key));
     const std::optional<StepKind> found = stepKind(name);
     if (!found)
-        fail(QStringLiteral("unknown kind “%1”").arg(excerpt(name)));
+        fail(tr("unknown kind “%1”").arg(plainLine(name, PropertyList::longestQuote)));
     return *found;
 }
 

@@ -39,7 +39,7 @@ public:
             return {};
         const auto narrowed = [&](auto wide) {
             if (!std::in_range<T>(wide))
-                fail(key, "is out of range");
+                fail(key, QT_TRANSLATE_NOOP("Fields", "“%1” is out of range"));
             return T(wide);
         };
         return std::visit(narrowed, *number);
@@ -67,6 +67,7 @@ private:
     std::optional<Whole> whole(const QString &key) const;
     double number(const QString &key, const PropertyList &value, const char *what) const;
     [[noreturn]] void fail(const QString &what) const;
+    /// `what` is English, with %1 for the key.
     [[noreturn]] void fail(const QString &key, const char *what) const;
     [[noreturn]] void failMissing(const QString &key) const;
 

@@ -9,7 +9,8 @@ namespace velvane::Picture {
 namespace {
 
 constexpr int maxSide = 16384;
-constexpr int maxMegabytes = maxSide / 1024 * (maxSide / 1024) * 4;
+constexpr int maxBytesPerPixel = 8; // four channels of 16 bits
+constexpr int maxMegabytes = maxSide / 1024 * (maxSide / 1024) * maxBytesPerPixel;
 
 } // namespace
 

@@ -6,6 +6,8 @@
 #include "model/Picture.h"
 #include "model/propertylist/PropertyList.h"
 
+#include <QCoreApplication>
+
 namespace velvane {
 
 namespace {
@@ -98,6 +100,9 @@ ProjectFile ProjectFile::from(const PropertyList &root)
     ProjectFile file;
     file.version = fields.required(Key::version, fields.integer<qint64>(Key::version));
     const Array &records = fields.array(Key::steps);
+    if (records.size() > maxSteps)
+        throw DocumentError(
+            QCoreApplication::translate("ProjectFile", "more than %1 steps").arg(maxSteps));
     file.steps.reserve(records.size());
     for (const PropertyList &record : records)
         file.steps.append(readStep(record, file.steps.size() + 1));

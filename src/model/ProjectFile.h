@@ -14,13 +14,16 @@ struct DocState;
 
 /// The root record of a demo file.
 struct ProjectFile {
+    /// Most steps of a demo that is read or written.
+    static constexpr qsizetype maxSteps = 150'000;
+
     /// Always written as 1; on reading any integer is accepted.
     qint64 version = 1;
     QList<Step> steps;
     QPointF startPoint;
     QSizeF canvasSize;
     int fps = 60;
-    /// PNG when written; any picture format when read.
+    /// A picture of any format. Those of a project are PNG; those of a file stay as they are.
     std::optional<QByteArray> background;
     /// Finds the movie again that was recorded with the steps; opaque here.
     std::optional<QByteArray> recordingBookmark;

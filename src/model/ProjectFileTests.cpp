@@ -227,7 +227,7 @@ TEST(ProjectFile, RefusesOtherSpellingsOfUuids)
             stepRefusal("id", text(id)).startsWith(QStringLiteral("step 3: “id” is not a UUID")))
             << id;
     }
-    EXPECT_EQ(stepRefusal("id", text("x\ny")), "step 3: “id” is not a UUID: “x y”");
+    EXPECT_EQ(stepRefusal("id", text("x\ny")), "step 3: “id” is not a UUID: “x␊y”");
     EXPECT_EQ(stepRefusal("id", 5), "step 3: “id” is not a string");
 }
 

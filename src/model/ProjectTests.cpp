@@ -148,6 +148,26 @@ TEST_F(ProjectTest, UndoLeavesTheSelectionEvenWhenItsStepIsGone)
     EXPECT_EQ(project.selection(), added);
 }
 
+TEST_F(ProjectTest, UndoRestoresTheCanvasAndLeavesTheSelection)
+{
+    append("a");
+    const QUuid last = project.steps().last().id;
+    project.setSelection(last);
+    const DocState before = project.docState();
+    project.setCanvasSize({1920, 1080});
+    project.setStartPoint({1, 2});
+    project.registerUndo(before, "Change Canvas");
+    project.setSelection(project.steps().first().id);
+    undo.undo();
+    EXPECT_EQ(project.canvasSize(), QSizeF(1280, 800));
+    EXPECT_EQ(project.startPoint(), QPointF(640, 400));
+    EXPECT_EQ(project.selection(), project.steps().first().id);
+    project.setSelection(last);
+    undo.redo();
+    EXPECT_EQ(project.canvasSize(), QSizeF(1920, 1080));
+    EXPECT_EQ(project.selection(), last);
+}
+
 TEST_F(ProjectTest, WithoutAnUndoManagerEditsApply)
 {
     project.setUndoManager(nullptr);

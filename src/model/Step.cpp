@@ -4,14 +4,65 @@
 #include "model/Shortcut.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace velvane {
 
 namespace {
 
-QString translated(const char *text)
+QString inUsersLanguage(const char *english)
 {
-    return QCoreApplication::translate("Step", text);
+    return QCoreApplication::translate("Step", english);
+}
+
+QString asItIs(const char *english)
+{
+    return QString::fromUtf8(english);
+}
+
+// How a summary is put into words: where they are looked up, and how numbers are written.
+struct Words {
+    QString (*translated)(const char *english);
+    QLocale locale;
+};
+
+// One decimal.
+QString decimal(double number, QLocale locale)
+{
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number, 'f', 1);
+}
+
+QString summaryOf(const Step &step, const Words &words)
+{
+    const auto translated = words.translated;
+    switch (step.kind) {
+    case StepKind::move:
+        return translated("Move to (%1, %2)")
+            .arg(truncated(step.point.x()))
+            .arg(truncated(step.point.y()));
+    case StepKind::click:
+        return translated("Click");
+    case StepKind::rightClick:
+        return translated("Right-click");
+    case StepKind::hold:
+        return translated("Hold mouse down");
+    case StepKind::release:
+        return translated("Release mouse");
+    case StepKind::type:
+        return translated("Type \"%1\"").arg(step.text);
+    case StepKind::shortcut: {
+        const QString keys = step.shortcutDisplay();
+        return keys.isEmpty() ? translated("Shortcut") : translated("Press %1").arg(keys);
+    }
+    case StepKind::wait:
+        return translated("Wait %1s").arg(decimal(step.pauseAfter.count(), words.locale));
+    case StepKind::switchApp:
+        return translated("Switch to %1").arg(step.text.isEmpty() ? translated("app") : step.text);
+    case StepKind::section:
+        return step.text.isEmpty() ? translated("Section") : step.text;
+    }
+    return {};
 }
 
 } // namespace
@@ -56,31 +107,12 @@ Step Step::withDefaults(StepKind kind, QSizeF canvasSize)
 
 QString Step::summary() const
 {
-    switch (kind) {
-    case StepKind::move:
-        return translated("Move to (%1, %2)").arg(truncated(point.x())).arg(truncated(point.y()));
-    case StepKind::click:
-        return translated("Click");
-    case StepKind::rightClick:
-        return translated("Right-click");
-    case StepKind::hold:
-        return translated("Hold mouse down");
-    case StepKind::release:
-        return translated("Release mouse");
-    case StepKind::type:
-        return translated("Type \"%1\"").arg(text);
-    case StepKind::shortcut: {
-        const QString keys = shortcutDisplay();
-        return keys.isEmpty() ? translated("Shortcut") : translated("Press %1").arg(keys);
-    }
-    case StepKind::wait:
-        return translated("Wait %1s").arg(pauseAfter.count(), 0, 'f', 1);
-    case StepKind::switchApp:
-        return translated("Switch to %1").arg(text.isEmpty() ? translated("app") : text);
-    case StepKind::section:
-        return text.isEmpty() ? translated("Section") : text;
-    }
-    return {};
+    return summaryOf(*this, {inUsersLanguage, QLocale()});
+}
+
+QString Step::englishSummary() const
+{
+    return summaryOf(*this, {asItIs, QLocale::c()});
 }
 
 QString Step::shortcutDisplay() const

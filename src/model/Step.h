@@ -39,8 +39,10 @@ struct Step {
     /// centre of the canvas.
     static Step withDefaults(StepKind kind, QSizeF canvasSize);
 
-    /// The one-line description in the step list.
+    /// The one-line description in the step list, in the user's language.
     QString summary() const;
+    /// The same for programs, in no user's language.
+    QString englishSummary() const;
 
     /// Modifier glyphs and key of a shortcut, e.g. "⇧⌘↩"; empty when it has neither.
     QString shortcutDisplay() const;

@@ -3,6 +3,8 @@
 #include "base/KeyCode.h"
 #include "support/Print.h"
 
+#include <QLocale>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -64,7 +66,23 @@ TEST(Step, AWaitSummarisesWithItsPauseAlone)
     Step wait = stepOf(StepKind::wait);
     wait.pauseAfter = 2s;
     wait.duration = 9s;
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     EXPECT_EQ(wait.summary(), "Wait 2.0s");
+    QLocale::setDefault(before);
+}
+
+TEST(Step, AWaitsLengthIsWrittenAsTheUsersLanguageDoes)
+{
+    Step wait = stepOf(StepKind::wait);
+    wait.pauseAfter = 1234.56s;
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const QString german = wait.summary();
+    const QString english = wait.englishSummary();
+    QLocale::setDefault(before);
+    EXPECT_EQ(german, "Wait 1234,6s");
+    EXPECT_EQ(english, "Wait 1234.6s");
 }
 
 TEST(Step, TheOtherKindsHaveTheirSummaries)

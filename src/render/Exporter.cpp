@@ -103,7 +103,7 @@ void writeMovie(const Snapshot &snap, const QString &path, ProgressRelay &progre
 
 qint64 frameCount(const Snapshot &snap)
 {
-    return framesIn(Timeline(snap).total(), rateOf(snap));
+    return framesIn(Timeline::total(snap.steps), rateOf(snap));
 }
 
 QCoro::Task<> exportTo(Snapshot snap, QString path, std::function<void(double)> progress,

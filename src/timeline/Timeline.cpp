@@ -3,8 +3,6 @@
 #include "base/Easing.h"
 #include "base/Graphemes.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -15,6 +13,12 @@ namespace {
 
 // Even an instantaneous step takes this long, so that every instant has one segment.
 constexpr Seconds minimumLength = 0.0001s;
+
+// A sum of absurd lengths stays a number.
+Seconds sum(Seconds a, Seconds b)
+{
+    return std::min(a + b, Seconds::max());
+}
 
 bool heldAfter(StepKind kind, bool before)
 {
@@ -38,6 +42,18 @@ double progress(Seconds local, Seconds span)
     return span > 0s ? std::clamp(local / span, 0.0, 1.0) : 1.0;
 }
 
+double between(double from, double to, double part)
+{
+    const double way = to - from;
+    // It may be longer than any number is.
+    return std::isfinite(way) ? from + way * part : from * (1 - part) + to * part;
+}
+
+QPointF between(QPointF from, QPointF to, double part)
+{
+    return {between(from.x(), to.x(), part), between(from.y(), to.y(), part)};
+}
+
 std::optional<QString> typedSoFar(const QString &text, double action)
 {
     const auto typed = std::round(action * static_cast<double>(Graphemes::count(text)));
@@ -50,7 +66,7 @@ void show(const ResolvedStep &segment, double action, double whole, FrameState &
     const Step &step = segment.step;
     switch (step.kind) {
     case StepKind::move:
-        state.cursor += (segment.endPos - segment.startPos) * easeInOut(action);
+        state.cursor = between(segment.startPos, segment.endPos, easeInOut(action));
         break;
     case StepKind::click:
     case StepKind::rightClick:
@@ -73,9 +89,8 @@ void show(const ResolvedStep &segment, double action, double whole, FrameState &
             state.caption = keys;
         break;
     case StepKind::switchApp:
-        state.caption =
-            QStringLiteral("→ ")
-            + (step.text.isEmpty() ? QCoreApplication::translate("Step", "app") : step.text);
+        // Not translated: frames show the same in every language.
+        state.caption = u"→ " + (step.text.isEmpty() ? QStringLiteral("app") : step.text);
         break;
     case StepKind::wait:
     case StepKind::section:
@@ -93,7 +108,7 @@ Timeline::Timeline(const Snapshot &snapshot) : m_startPoint(snapshot.startPoint)
     for (const Step &step : snapshot.steps) {
         if (step.kind == StepKind::section)
             continue;
-        const Seconds end = m_total + length(step);
+        const Seconds end = sum(m_total, length(step));
         const QPointF target = step.kind == StepKind::move ? step.point : position;
         m_steps.append({.step = step,
                         .start = m_total,
@@ -108,13 +123,20 @@ Timeline::Timeline(const Snapshot &snapshot) : m_startPoint(snapshot.startPoint)
     }
 }
 
+Seconds Timeline::total(const QList<Step> &steps)
+{
+    Seconds end{0};
+    for (const Step &step : steps)
+        end = sum(end, length(step));
+    return end;
+}
+
 Seconds Timeline::length(const Step &step)
 {
     if (step.kind == StepKind::section)
         return 0s;
     const Seconds action = actionLength(step);
-    const Seconds whole = step.pauseAfter > 0s ? action + step.pauseAfter : action;
-    return std::max(whole, minimumLength);
+    return std::max(sum(action, std::max(step.pauseAfter, 0s)), minimumLength);
 }
 
 FrameState Timeline::state(Seconds at) const
@@ -147,7 +169,7 @@ std::optional<Seconds> Timeline::videoTime(Seconds at, Seconds videoDuration) co
     const bool isLast = *index + 1 == m_steps.size();
     const Seconds next =
         isLast ? videoDuration : m_steps[*index + 1].step.recordedOffset.value_or(videoDuration);
-    const Seconds gap = std::max(next - *offset, Seconds(0));
+    const Seconds gap = std::clamp(next - *offset, Seconds(0), Seconds::max());
     return *offset + gap * progress(clamped(at) - segment.start, segment.end - segment.start);
 }
 

@@ -13,10 +13,12 @@ public:
     explicit Timeline(const Snapshot &snapshot);
 
     const QList<ResolvedStep> &steps() const { return m_steps; }
-    /// End of the last segment; 0 when there are none.
+    /// End of the last segment; 0 when there are none. Finite, however long the steps are.
     Seconds total() const { return m_total; }
     QPointF startPoint() const { return m_startPoint; }
 
+    /// The end of the last of these steps, without working out what they show.
+    static Seconds total(const QList<Step> &steps);
     /// How long a step takes, its pause included; 0 for a section.
     static Seconds length(const Step &step);
 

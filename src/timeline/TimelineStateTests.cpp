@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace velvane {
@@ -32,6 +33,20 @@ std::optional<QString> typedAt(const QString &text, Seconds at)
 }
 
 } // namespace
+
+TEST(TimelineState, BetweenPointsFartherApartThanAnyNumberTheCursorIsSomewhere)
+{
+    const double far = std::numeric_limits<double>::max();
+    const Timeline timeline({.steps = {Step{.point = {far, -far}, .duration = 1s}},
+                             .startPoint = {-far, far},
+                             .canvasSize = {1280, 800}});
+    for (const Seconds at : {0s, 0.25s, 0.5s, 0.75s, 1s}) {
+        const QPointF cursor = timeline.state(at).cursor;
+        EXPECT_TRUE(std::isfinite(cursor.x()) && std::isfinite(cursor.y())) << at.count();
+    }
+    EXPECT_EQ(timeline.state(0.5s).cursor, QPointF(0, 0));
+    EXPECT_EQ(timeline.state(1s).cursor.x(), far);
+}
 
 TEST(TimelineState, AnEmptyDemoRestsAtItsStart)
 {

@@ -42,6 +42,28 @@ TEST(Timeline, ANegativePauseAddsNothing)
     EXPECT_EQ(timeline.total(), 0.0001s);
 }
 
+TEST(Timeline, LengthsBeyondAnyNumberEndAtTheLargest)
+{
+    const QList<Step> steps{stepOf(StepKind::move, 1e308s, 1e308s),
+                            stepOf(StepKind::wait, 0s, 1e308s), stepOf(StepKind::click, 0s, 1s)};
+    const Timeline timeline = timelineOf(steps);
+    EXPECT_EQ(timeline.total(), Seconds::max());
+    EXPECT_EQ(timeline.steps()[2].start, Seconds::max());
+    EXPECT_EQ(Timeline::total(steps), Seconds::max());
+    const FrameState last = timeline.state(Seconds::max());
+    EXPECT_EQ(last.ripple, 1.0) << "a click without any time of its own is over";
+}
+
+TEST(Timeline, TheTotalOfStepsIsThatOfTheirTimeline)
+{
+    QList<Step> steps;
+    for (int i = 0; i < 100; ++i)
+        steps << stepOf(allStepKinds[i % allStepKinds.size()], Seconds(0.1 * i),
+                        Seconds(0.7 - 0.01 * i));
+    EXPECT_EQ(Timeline::total(steps), timelineOf(steps).total());
+    EXPECT_EQ(Timeline::total({}), 0s);
+}
+
 TEST(Timeline, OnlyMoveAndTypeSpendTheirDuration)
 {
     const Timeline timeline =

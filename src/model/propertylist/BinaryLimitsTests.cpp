@@ -81,7 +81,7 @@ TEST(BinaryLimits, RefusesSharedReferencesThatExpandToBillions)
     for (int i = 1; i <= 40; ++i)
         file.objects << hex("A2") + bigEndian(quint64(i), 1) + bigEndian(quint64(i), 1);
     file.objects << hex("09");
-    EXPECT_EQ(refusal(file), "damaged property list: object 17 at byte 59 holds too many values");
+    EXPECT_EQ(refusal(file), "damaged property list: object 18 at byte 62 holds too many values");
 }
 
 TEST(BinaryLimits, RefusesAnArrayOfMoreItemsThanTheLimit)
@@ -90,6 +90,18 @@ TEST(BinaryLimits, RefusesAnArrayOfMoreItemsThanTheLimit)
     const RawBinary file{
         {hex("AF12") + bigEndian(count, 4) + QByteArray(qsizetype(count), '\x01'), hex("00")}};
     EXPECT_EQ(refusal(file), "damaged property list: object 0 at byte 8 holds too many values");
+}
+
+TEST(BinaryLimits, RefusesWhatTakesTooMuchMemory)
+{
+    // Of a few bytes each in the file, and many times as many in memory.
+    constexpr int count = 2'000'000;
+    QByteArray references;
+    for (int i = 1; i <= count; ++i)
+        references += bigEndian(quint64(i), 3);
+    RawBinary file{.objects = {hex("AF12") + bigEndian(count, 4) + references}, .referenceSize = 3};
+    file.objects << QList<QByteArray>(count, hex("5161"));
+    EXPECT_TRUE(refusal(file).endsWith(QStringLiteral(" takes too much memory")));
 }
 
 TEST(BinaryLimits, RefusesManyTextsMadeOfTheSameBytes)

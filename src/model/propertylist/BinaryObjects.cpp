@@ -3,6 +3,7 @@
 #include "model/DocumentError.h"
 #include "model/propertylist/BinaryFormat.h"
 
+#include <QCoreApplication>
 #include <QtEndian>
 
 #include <bit>
@@ -13,7 +14,8 @@ namespace Format = BinaryFormat;
 
 void BinaryObjects::fail(const QString &what)
 {
-    throw DocumentError(QStringLiteral("damaged property list: ") + what);
+    throw DocumentError(
+        QCoreApplication::translate("BinaryObjects", "damaged property list: %1").arg(what));
 }
 
 void BinaryObjects::fail(const Object &object, const char *what)

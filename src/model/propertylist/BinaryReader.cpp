@@ -40,6 +40,7 @@ private:
     qsizetype takeText(Object &object, qsizetype itemSize);
     qsizetype takeItems(Object &object, qsizetype references);
     void countShared(const Object &object, qsizetype size);
+    void countMemory(const Object &object, qsizetype size);
 
     static constexpr quint32 unread = 0;
     static constexpr quint32 beingRead = ~quint32(0);
@@ -50,6 +51,7 @@ private:
     std::vector<quint32> m_places;
     std::vector<Resolved> m_shared;
     qsizetype m_sharedBytes = 0;
+    qsizetype m_memory = 0;
     quint64 m_items = 0;
 };
 
@@ -111,6 +113,8 @@ qsizetype Reader::takeText(Object &object, qsizetype itemSize)
 {
     const qsizetype count = m_objects.takeCount(object, itemSize);
     countShared(object, count * itemSize);
+    // Texts are kept as UTF-16.
+    countMemory(object, count * (object.type == Format::Data ? 1 : 2));
     return count;
 }
 
@@ -122,6 +126,7 @@ qsizetype Reader::takeItems(Object &object, qsizetype references)
     m_items += quint64(count * references);
     if (m_items > PropertyList::maxValues)
         BinaryObjects::fail(object, "holds too many values");
+    countMemory(object, count * PropertyList::valueMemory);
     return count;
 }
 
@@ -132,6 +137,14 @@ void Reader::countShared(const Object &object, qsizetype size)
     m_sharedBytes += 1 + size;
     if (m_sharedBytes > m_objects.size())
         BinaryObjects::fail(object, "overlaps others");
+}
+
+// Of an object's content.
+void Reader::countMemory(const Object &object, qsizetype size)
+{
+    m_memory += PropertyList::sharedMemory + size;
+    if (m_memory > PropertyList::maxMemory)
+        BinaryObjects::fail(object, "takes too much memory");
 }
 
 Resolved Reader::array(Object &object, int depth)

@@ -39,7 +39,17 @@ public:
     /// Deepest nesting of arrays and dictionaries that is read.
     static constexpr int maxDepth = 512;
     /// Most values (keys included) that are read; one that is referred to twice counts twice.
-    static constexpr quint64 maxValues = quint64(1) << 23;
+    static constexpr quint64 maxValues = quint64(1) << 22;
+    /// Bytes of memory that all that is read may take; each reader counts before it takes.
+    static constexpr qsizetype maxMemory = qsizetype(224) << 20;
+    /// Bytes that a value takes in an array or dictionary, its key included.
+    static constexpr qsizetype valueMemory = 56;
+    /// Bytes that a text, data, array or dictionary takes besides its content: where it is kept,
+    /// and what the allocator adds.
+    static constexpr qsizetype sharedMemory = 128;
+
+    /// Characters of a file's text that a message about it quotes at most.
+    static constexpr qsizetype longestQuote = 40;
 
     /// Null.
     PropertyList() = default;

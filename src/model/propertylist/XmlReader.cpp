@@ -1,9 +1,10 @@
 #include "model/propertylist/XmlReader.h"
 
+#include "base/PlainLine.h"
 #include "model/DocumentError.h"
-#include "model/Excerpt.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QHash>
 #include <QXmlStreamReader>
@@ -57,10 +58,20 @@ std::optional<PropertyList> date(QStringView text)
     return PropertyList(PropertyList::Date{double(time.toSecsSinceEpoch() - startOf2001)});
 }
 
-std::optional<PropertyList> data(QStringView text)
+// Adds what is no white space.
+void appendBase64(QByteArray &base64, QStringView text)
 {
-    QByteArray base64 = text.toLatin1();
-    base64.removeIf([](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); });
+    base64.reserve(base64.size() + text.size());
+    for (const QChar character : text) {
+        // What Latin-1 lacks is no base64 either.
+        const char c = character.toLatin1();
+        if (c != ' ' && (c < '\t' || c > '\r'))
+            base64.append(c);
+    }
+}
+
+std::optional<PropertyList> data(QByteArray base64)
+{
     auto decoded =
         QByteArray::fromBase64Encoding(std::move(base64), QByteArray::AbortOnBase64DecodingErrors);
     return decoded ? std::optional(PropertyList(std::move(*decoded))) : std::nullopt;
@@ -78,10 +89,15 @@ private:
     void open(PropertyList::Value parts);
     void readKey();
     bool readScalar(QStringView element);
+    void readText();
     void readTruth(bool truth);
     PropertyList checked(std::optional<PropertyList> value, const char *what);
+    template <typename Take>
+    void eachPiece(const Take &take);
     QStringView text();
+    QByteArray base64();
     void add(PropertyList value);
+    void countMemory(qsizetype size);
     [[noreturn]] void failToParse() const;
     [[noreturn]] void fail(const QString &what) const;
 
@@ -90,6 +106,7 @@ private:
     std::vector<Level> m_open;
     std::optional<PropertyList> m_root;
     quint64 m_values = 0;
+    qsizetype m_memory = 0;
     bool m_inPlist = false;
     QString m_text;
     // Thousands of dictionaries have the same keys: they share them.
@@ -133,7 +150,8 @@ void Parser::start()
     } else if (element == QLatin1String("plist") && !m_inPlist && m_open.empty() && !m_root) {
         m_inPlist = true;
     } else if (!readScalar(element)) {
-        fail(QStringLiteral("unknown element “%1”").arg(excerpt(element)));
+        fail(QStringLiteral("unknown element “%1”")
+                 .arg(plainLine(element, PropertyList::longestQuote)));
     }
 }
 
@@ -145,6 +163,11 @@ void Parser::end()
     m_open.pop_back();
     if (level.key)
         fail(QStringLiteral("a key without a value"));
+    // Millions of small ones would waste as much again.
+    if (auto *array = std::get_if<PropertyList::Array>(&level.parts))
+        array->squeeze();
+    else
+        std::get<PropertyList::Dictionary>(level.parts).squeeze();
     add(PropertyList(std::move(level.parts)));
 }
 
@@ -152,6 +175,7 @@ void Parser::open(PropertyList::Value parts)
 {
     if (m_open.size() >= PropertyList::maxDepth)
         fail(QStringLiteral("nested too deeply"));
+    countMemory(PropertyList::sharedMemory);
     m_open.push_back({std::move(parts)});
 }
 
@@ -165,6 +189,7 @@ void Parser::readKey()
     const QStringView name = text();
     auto known = m_keys.constFind(name);
     if (known == m_keys.constEnd()) {
+        countMemory(2 * PropertyList::sharedMemory + 2 * name.size());
         const QString key = name.toString();
         known = m_keys.insert(key, key);
     }
@@ -174,7 +199,7 @@ void Parser::readKey()
 bool Parser::readScalar(QStringView element)
 {
     if (element == QLatin1String("string"))
-        add(text().toString());
+        readText();
     else if (element == QLatin1String("real"))
         add(checked(real(text()), "a real that is no number"));
     else if (element == QLatin1String("integer"))
@@ -182,12 +207,19 @@ bool Parser::readScalar(QStringView element)
     else if (element == QLatin1String("true") || element == QLatin1String("false"))
         readTruth(element.front() == QLatin1Char('t'));
     else if (element == QLatin1String("data"))
-        add(checked(data(text()), "data that is not base64"));
+        add(checked(data(base64()), "data that is not base64"));
     else if (element == QLatin1String("date"))
         add(checked(date(text()), "a date that is none"));
     else
         return false;
     return true;
+}
+
+void Parser::readText()
+{
+    const QStringView content = text();
+    countMemory(PropertyList::sharedMemory + 2 * content.size());
+    add(content.toString());
 }
 
 void Parser::readTruth(bool truth)
@@ -204,18 +236,18 @@ PropertyList Parser::checked(std::optional<PropertyList> value, const char *what
     return std::move(*value);
 }
 
-// The text of the element just begun, to its end; valid until the next call.
-QStringView Parser::text()
+// Hands over the text of the element just begun, to its end.
+template <typename Take>
+void Parser::eachPiece(const Take &take)
 {
-    m_text.resize(0);
     for (;;) {
         switch (m_xml.readNext()) {
         case QXmlStreamReader::Characters:
         case QXmlStreamReader::EntityReference:
-            m_text.append(m_xml.text());
+            take(m_xml.text());
             break;
         case QXmlStreamReader::EndElement:
-            return m_text;
+            return;
         case QXmlStreamReader::StartElement:
             fail(QStringLiteral("an element inside of a text"));
         case QXmlStreamReader::Invalid:
@@ -226,8 +258,41 @@ QStringView Parser::text()
     }
 }
 
+// Valid until the next call.
+QStringView Parser::text()
+{
+    // Characters; the memory for it is kept for the next one.
+    constexpr qsizetype longest = qsizetype(1) << 23;
+    m_text.resize(0);
+    eachPiece([this](QStringView piece) {
+        if (piece.size() > longest - m_text.size())
+            fail(QStringLiteral("a text that is too long"));
+        m_text.append(piece);
+    });
+    return m_text;
+}
+
+QByteArray Parser::base64()
+{
+    QByteArray all;
+    countMemory(PropertyList::sharedMemory);
+    eachPiece([&](QStringView piece) {
+        countMemory(piece.size());
+        appendBase64(all, piece);
+    });
+    return all;
+}
+
+void Parser::countMemory(qsizetype size)
+{
+    m_memory += size;
+    if (m_memory > PropertyList::maxMemory)
+        fail(QStringLiteral("too much for the memory"));
+}
+
 void Parser::add(PropertyList value)
 {
+    countMemory(PropertyList::valueMemory);
     if (++m_values > PropertyList::maxValues)
         fail(QStringLiteral("too many values"));
     if (m_open.empty()) {
@@ -251,18 +316,24 @@ void Parser::failToParse() const
 {
     // The parser's words quote the file, however long.
     constexpr qsizetype aLine = 100;
-    fail(excerpt(m_xml.errorString(), aLine));
+    fail(plainLine(m_xml.errorString(), aLine));
 }
 
 void Parser::fail(const QString &what) const
 {
-    throw DocumentError(QStringLiteral("damaged property list: line %1, column %2: %3")
-                            .arg(m_xml.lineNumber())
-                            .arg(m_xml.columnNumber())
-                            .arg(what));
+    throw DocumentError(
+        QCoreApplication::translate("XmlReader", "damaged property list: line %1, column %2: %3")
+            .arg(m_xml.lineNumber())
+            .arg(m_xml.columnNumber())
+            .arg(what));
 }
 
 } // namespace
+
+PropertyList read(QIODevice &file)
+{
+    return Parser(file).parse();
+}
 
 PropertyList read(const QByteArray &bytes)
 {
@@ -270,7 +341,7 @@ PropertyList read(const QByteArray &bytes)
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
-    return Parser(buffer).parse();
+    return read(buffer);
 }
 
 } // namespace velvane::XmlReader

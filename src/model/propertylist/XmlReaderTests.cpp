@@ -154,6 +154,7 @@ TEST(XmlReader, RefusesValuesThatAreNotTheirType)
             << date;
     }
     EXPECT_EQ(refusal("<data>A*</data>"), "15: data that is not base64");
+    EXPECT_EQ(refusal("<data>AA\xC4\x80=</data>"), "17: data that is not base64");
 }
 
 TEST(XmlReader, MessagesQuoteNoMoreThanALine)
@@ -176,6 +177,31 @@ TEST(XmlReader, ReadsNestingAsDeepAsTheLimit)
     for (int i = 1; i < PropertyList::maxDepth; ++i)
         value = PropertyList(value.as<Array>()->constFirst());
     EXPECT_EQ(value, PropertyList(Array()));
+}
+
+TEST(XmlReader, RefusesWhatTakesTooMuchMemory)
+{
+    const auto count = PropertyList::maxMemory / PropertyList::sharedMemory;
+    EXPECT_TRUE(refusal("<array>" + QByteArray("<array/>").repeated(count))
+                    .endsWith(QStringLiteral(": too much for the memory")));
+}
+
+TEST(XmlReader, RefusesTooManyValues)
+{
+    const auto count = qsizetype(PropertyList::maxValues) + 1;
+    const QString message = refusal("<array>" + QByteArray("<true/>").repeated(count));
+    EXPECT_TRUE(message.endsWith(QStringLiteral(": too many values"))
+                || message.endsWith(QStringLiteral(": too much for the memory")));
+}
+
+TEST(XmlReader, RefusesATextThatIsTooLong)
+{
+    const QByteArray text(9'000'000, 'x');
+    EXPECT_TRUE(refusal("<string>" + text + "</string>")
+                    .endsWith(QStringLiteral(": a text that is too long")));
+    EXPECT_EQ(
+        XmlReader::read("<string>" + text.first(8'000'000) + "</string>").as<QString>()->size(),
+        8'000'000);
 }
 
 TEST(XmlReader, RefusesEntitiesThatExpandToBillions)

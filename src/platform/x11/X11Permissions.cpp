@@ -1,10 +1,10 @@
 #include "platform/x11/X11Permissions.h"
 
+#include "base/WholeFile.h"
 #include "platform/freedesktop/Addresses.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -119,12 +119,11 @@ void X11Permissions::openSettings(Permission permission)
     const QString text = explanation(permission);
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     QDir().mkpath(folder);
-    QSaveFile file(folder + "/permission.html");
-    if (!file.open(QFile::WriteOnly))
-        return;
-    file.write(page(activity(permission), text.isEmpty() ? tr("Nothing is missing.") : text));
-    if (file.commit())
-        Addresses::open(QUrl::fromLocalFile(file.fileName()));
+    const QString file = folder + "/permission.html";
+    const QByteArray html =
+        page(activity(permission), text.isEmpty() ? tr("Nothing is missing.") : text);
+    if (!WholeFile::write(file, html))
+        Addresses::open(QUrl::fromLocalFile(file));
 }
 
 } // namespace velvane
