@@ -63,9 +63,7 @@ void append(const QList<Step> &steps, const std::optional<QByteArray> &movie,
     const std::optional<QString> kept = rescueDemo(project.fileSnapshot(), path);
     if (!kept)
         throw failure;
-    constexpr qsizetype longEnough = 2 * PATH_MAX;
-    throw CommandError(QString::fromStdString(
-        printable(tr("%1; the recorded steps are in %2").arg(failure.what(), *kept), longEnough)));
+    throw CommandError(tr("%1; the recorded steps are in %2").arg(failure.what(), *kept));
 }
 
 void keep(const QList<Step> &steps, const Project &project, const std::string &demo)
