@@ -39,9 +39,9 @@ TEST_F(LiveDriver, TheCursorTravelsByACubicEaseInAndOut)
     demo.fps = 40;
     demo.startPoint = {0, 0};
     run({moveTo({1000, 100}, 0.1s)});
-    EXPECT_EQ(desktop.log(), QStringList({"mouseMoved 0,0", "mouseMoved 0,0",
-                                          "mouseMoved 62.5,6.25", "mouseMoved 500,50",
-                                          "mouseMoved 937.5,93.75", "mouseMoved 1000,100"}));
+    EXPECT_EQ(desktop.log(),
+              QStringList({"mouseMoved 0,0", "mouseMoved 0,0", "mouseMoved 62.5,6.25",
+                           "mouseMoved 500,50", "mouseMoved 937.5,93.75", "mouseMoved 1000,100"}));
 }
 
 TEST_F(LiveDriver, PartsOfAnIntervalAreCutOff)
