@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 namespace velvane {
 
@@ -207,15 +208,14 @@ void X11Poster::sync()
 
 void X11Poster::releaseAll()
 {
-    if (m_held.buttons == 0)
-        return;
     for (xcb_button_t button = 1; button < 8; ++button) {
         if ((m_held.buttons & bitOf(button)) != 0)
             fake(XCB_BUTTON_RELEASE, button);
     }
+    // Whatever was posted last has arrived, too.
     sync();
-    m_held.buttons = 0;
-    m_watchdog.tell(m_held);
+    if (std::exchange(m_held.buttons, uint8_t(0)) != 0)
+        m_watchdog.tell(m_held);
 }
 
 } // namespace velvane
