@@ -41,7 +41,7 @@
     <message>
         <source>Unsaved changes could not be kept: %1.</source>
         <extracomment>Autosave</extracomment>
-        <translation>Les modifications non enregistrées n’ont pas pu être conservées : %1.</translation>
+        <translation>Les modifications non enregistrées n’ont pas pu être conservées : %1.</translation>
     </message>
     <message>
         <source>Restore</source>
