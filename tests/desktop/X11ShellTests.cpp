@@ -106,6 +106,24 @@ TEST_F(X11ShellTest, ActivatingBringsOursInFrontWithTheKeyboard)
     EXPECT_TRUE(eventually([&] { return window.isActive(); }));
 }
 
+TEST_F(X11ShellTest, TheWindowThatWasInFrontIsInFrontAgain)
+{
+    OwnWindow first;
+    OwnWindow second;
+    OwnWindow third;
+    for (OwnWindow *front : {&first, &third, &second, &first, &second, &third}) {
+        front->raise();
+        front->requestActivate();
+        ASSERT_TRUE(eventually([&] { return active() == front->id(); }));
+        shell().hide();
+        ASSERT_FALSE(isShown(front->id()));
+        shell().unhide();
+        shell().activate();
+        EXPECT_TRUE(eventually([&] { return active() == front->id(); }));
+        EXPECT_EQ(topmost(), front->id());
+    }
+}
+
 TEST_F(X11ShellTest, AMinimizedWindowStaysMinimized)
 {
     OwnWindow window;
