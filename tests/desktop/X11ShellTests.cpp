@@ -111,6 +111,9 @@ TEST_F(X11ShellTest, TheWindowThatWasInFrontIsInFrontAgain)
     OwnWindow first;
     OwnWindow second;
     OwnWindow third;
+    // With no other program to give the keyboard to.
+    xcb_unmap_window(connection.get(), other.id());
+    settled(connection);
     for (OwnWindow *front : {&first, &third, &second, &first, &second, &third}) {
         front->raise();
         front->requestActivate();
