@@ -69,6 +69,46 @@ BOOKMARKS = {
     "empty": "",
 }
 
+APPLICATIONS = {
+    "plain": "[Desktop Entry]\nType=Application\nName=Notes\nExec=notes %U\nIcon=notes\n",
+    "full": "# one\n[Desktop Entry]\r\nType = Application\nName=a\\sb\\\\c\nName[de]=Zettel\n"
+            "Name[de_DE]=Notizen\nName[de@euro]=Geld\nExec=env A=b \"/opt/my app\" %i %c %k 100%%\n"
+            "TryExec=/usr/bin/notes\nPath=/opt\nStartupWMClass=Notes\nOnlyShowIn=GNOME;a\\;b;\n"
+            "NotShowIn=ubuntu;\nDBusActivatable=true\nTerminal=1\n[Desktop Action a]\nName=A\n",
+    "hidden": "[Desktop Entry]\nHidden=true\n",
+    "shown": "[Desktop Entry]\nType=Application\nName=N\nOnlyShowIn=\nNoDisplay=true\n",
+    "open": "[Desktop Entry]\nType=Application\nName=é\nExec=\"open\n",
+}
+
+USED = """<?xml version="1.0" encoding="UTF-8"?>
+<xbel version="1.0" xmlns:bookmark="http://www.freedesktop.org/standards/desktop-bookmarks"
+ xmlns:mime="http://www.freedesktop.org/standards/shared-mime-info">%s</xbel>
+"""
+FILE = """<bookmark href="file:///%s" added="2026-01-02T03:04:05Z" visited="2026-01-02T03:04:07Z">
+<title>Notes &amp; more</title><desc>d</desc><info><metadata owner="http://freedesktop.org">
+<mime:mime-type type="text/plain"/><bookmark:groups><bookmark:group>G</bookmark:group>
+</bookmark:groups><bookmark:applications><bookmark:application name="Writer"
+ exec="&apos;writer %%u&apos;" modified="2026-01-02T03:04:06Z" count="7"/></bookmark:applications>
+<bookmark:private/></metadata></info></bookmark>
+"""
+RECENT = {
+    "none": USED % "",
+    "other": USED % (FILE % "notes%20a.txt"),
+    "both": USED % (FILE % "b" + FILE % "demos/a.velvane"),
+    "bare": '<xbel version="1.0"><bookmark href="a:b"/></xbel>',
+    "cut": (USED % (FILE % "a"))[:400],
+}
+
+RECORD = {"id": "0123abcd-0123-abcd-4567-0123456789ab", "path": "/d/a.velvane", "title": "a",
+          "kept": 1790000000000}
+KEPT = {
+    "unnamed": {**RECORD, "path": "", "demo": demo([FULL_STEP])},
+    "named": {**RECORD, "device": 1, "inode": 2**64 - 1, "size": 300, "modified": -1},
+    "both": {**RECORD, "inode": 7, "demo": demo([{"kind": kind} for kind in KINDS])},
+    "least": {"id": RECORD["id"]},
+    "late": {**RECORD, "kept": 2**63 - 1},
+}
+
 
 def make_movie(path, options):
     command = ["ffmpeg", "-nostdin", "-v", "error", "-y", "-f", "lavfi",
@@ -79,7 +119,8 @@ def make_movie(path, options):
 
 def main():
     here = pathlib.Path(__file__).parent / "corpus"
-    for folder in ("binary", "xml", "demo", "appcast", "movie", "bookmark"):
+    for folder in ("binary", "xml", "demo", "kept", "appcast", "movie", "bookmark", "desktop",
+                   "recent"):
         (here / folder).mkdir(parents=True, exist_ok=True)
     for name, value in VALUES.items():
         binary = plistlib.dumps(value, fmt=plistlib.FMT_BINARY, sort_keys=False)
@@ -95,8 +136,12 @@ def main():
         (here / "appcast" / name).write_text(feed, encoding="utf-8")
     for name, options in MOVIES.items():
         make_movie(here / "movie" / name, options)
-    for name, text in BOOKMARKS.items():
-        (here / "bookmark" / name).write_text(text)
+    for folder, texts in (("bookmark", BOOKMARKS), ("desktop", APPLICATIONS), ("recent", RECENT)):
+        for name, text in texts.items():
+            (here / folder / name).write_text(text, encoding="utf-8", newline="")
+    for name, record in KEPT.items():
+        data = plistlib.dumps(record, fmt=plistlib.FMT_BINARY, sort_keys=False)
+        (here / "kept" / name).write_bytes(data)
 
 
 if __name__ == "__main__":

@@ -125,6 +125,27 @@ TEST_F(X11ShellTest, ActivatingBringsOursInFrontWithTheKeyboard)
     EXPECT_TRUE(eventually([&] { return window.isActive(); }));
 }
 
+TEST_F(X11ShellTest, TheWindowThatWasInFrontIsInFrontAgain)
+{
+    OwnWindow first;
+    OwnWindow second;
+    OwnWindow third;
+    // With no other program to give the keyboard to.
+    xcb_unmap_window(connection.get(), other.id());
+    settled(connection);
+    for (OwnWindow *front : {&first, &third, &second, &first, &second, &third}) {
+        front->raise();
+        front->requestActivate();
+        ASSERT_TRUE(eventually([&] { return active() == front->id(); }));
+        shell().hide();
+        ASSERT_FALSE(isShown(front->id()));
+        shell().unhide();
+        shell().activate();
+        EXPECT_TRUE(eventually([&] { return active() == front->id(); }));
+        EXPECT_EQ(topmost(), front->id());
+    }
+}
+
 TEST_F(X11ShellTest, AMinimizedWindowStaysMinimized)
 {
     OwnWindow window;

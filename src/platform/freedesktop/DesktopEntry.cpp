@@ -105,9 +105,9 @@ QList<QByteArray> localeNames(const QString &locale)
 QString localized(const Keys &keys, const QByteArray &key, const QString &locale)
 {
     for (const QByteArray &name : localeNames(locale)) {
-        const auto found = keys.constFind(key + '[' + name + ']');
-        if (found != keys.constEnd() && !found->isEmpty())
-            return text(*found);
+        QString found = text(keys.value(key + '[' + name + ']'));
+        if (!found.isEmpty())
+            return found;
     }
     return text(keys.value(key));
 }

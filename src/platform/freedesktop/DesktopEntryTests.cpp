@@ -94,6 +94,11 @@ INSTANTIATE_TEST_SUITE_P(
                     LocaleSample{"sr_RS", "Notes"}, LocaleSample{"fr_FR", "Notes"},
                     LocaleSample{"C", "Notes"}, LocaleSample{"", "Notes"}));
 
+TEST(DesktopEntry, ATranslationWithoutALetterIsNone)
+{
+    EXPECT_EQ(parsed(head + "Name[de]=\xef\xbb\xbf\n", "de").localizedName, "Notes");
+}
+
 TEST(DesktopEntry, WhatDescribesNoApplicationIsNone)
 {
     EXPECT_FALSE(parseDesktopEntry("", {}));

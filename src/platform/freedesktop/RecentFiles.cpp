@@ -25,20 +25,29 @@ constexpr qint64 greatestSize = 64 << 20;
 
 using Bookmarks = std::unique_ptr<GBookmarkFile, decltype(&g_bookmark_file_free)>;
 
+Bookmarks none()
+{
+    return {nullptr, g_bookmark_file_free};
+}
+
+/// Null when the bytes are no list.
+Bookmarks parse(const QByteArray &bytes)
+{
+    Bookmarks bookmarks(g_bookmark_file_new(), g_bookmark_file_free);
+    const bool isList = g_bookmark_file_load_from_data(bookmarks.get(), bytes.constData(),
+                                                       gsize(bytes.size()), nullptr);
+    return isList ? std::move(bookmarks) : none();
+}
+
 /// An empty list when there is none yet, null when there is something else.
 Bookmarks read(const QString &list)
 {
-    Bookmarks bookmarks(g_bookmark_file_new(), g_bookmark_file_free);
     QFile file(list);
     if (!file.exists())
-        return bookmarks;
+        return {g_bookmark_file_new(), g_bookmark_file_free};
     if (!file.open(QIODevice::ReadOnly) || file.size() > greatestSize)
-        return {nullptr, g_bookmark_file_free};
-    const QByteArray bytes = file.readAll();
-    if (!g_bookmark_file_load_from_data(bookmarks.get(), bytes.constData(), gsize(bytes.size()),
-                                        nullptr))
-        bookmarks.reset();
-    return bookmarks;
+        return none();
+    return parse(file.readAll());
 }
 
 QByteArray contents(GBookmarkFile *bookmarks)
@@ -53,7 +62,8 @@ QByteArray contents(GBookmarkFile *bookmarks)
 bool write(const QString &list, GBookmarkFile *bookmarks)
 {
     const QByteArray bytes = contents(bookmarks);
-    return !bytes.isEmpty() && !WholeFile::write(list, bytes);
+    // The library does not escape everything that it writes, such as an '&' in another's type.
+    return parse(bytes) && !WholeFile::write(list, bytes);
 }
 
 void removeOurs(GBookmarkFile *bookmarks, const char *uri)

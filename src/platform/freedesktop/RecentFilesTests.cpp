@@ -107,6 +107,16 @@ TEST_F(RecentFilesTest, AListThatIsNoneIsLeftAlone)
     }
 }
 
+TEST_F(RecentFilesTest, AListThatWouldNotBeOneAfterwardsIsLeftAlone)
+{
+    ASSERT_TRUE(add("/start"));
+    QByteArray strange = others;
+    strange.replace("text/plain", "text&amp;plain");
+    write(strange);
+    EXPECT_FALSE(add("/a.velvane"));
+    EXPECT_EQ(text(), strange);
+}
+
 TEST_F(RecentFilesTest, WhereNothingCanBeWrittenNothingHappens)
 {
     EXPECT_FALSE(RecentFiles::add("/a.velvane", type, "/proc/none/recently-used.xbel"));

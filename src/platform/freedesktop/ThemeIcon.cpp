@@ -20,9 +20,12 @@ int pixels(qreal scale)
     return qRound(points * qBound(qreal(1), scale, qreal(8)));
 }
 
-// Reads a file at the size wanted, which makes vector pictures sharp.
+// Reads a file at the size wanted, which makes vector pictures sharp. A pipe or a device, which may
+// never end, is no file.
 QImage readPicture(const QString &path, int side)
 {
+    if (!QFileInfo(path).isFile())
+        return {};
     QImageReader reader(path);
     const QSize size = reader.size();
     if (reader.format().startsWith("svg") && !size.isEmpty())

@@ -1,11 +1,16 @@
 #include "platform/freedesktop/ThemeIcon.h"
 
+#include <QBuffer>
 #include <QColor>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace velvane {
 
@@ -59,6 +64,21 @@ TEST(ThemeIcon, AnAbsolutePathIsRead)
     const QString path = folder.filePath("icon.png");
     ASSERT_TRUE(filled(48, 48, Qt::blue).save(path));
     EXPECT_EQ(themeIcon(path, {}, 1).pixelColor(8, 8), QColor(Qt::blue));
+}
+
+TEST(ThemeIcon, APipeIsNoPictureWhateverComesOutOfIt)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("icon.png");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    ASSERT_TRUE(filled(16, 16, Qt::blue).save(&buffer, "PNG"));
+    // Also for reading, so that nobody waits for a reader.
+    const int pipe = ::open(QFile::encodeName(path).constData(), O_RDWR);
+    ASSERT_EQ(::write(pipe, bytes.constData(), bytes.size()), bytes.size());
+    EXPECT_TRUE(themeIcon(path, {}, 1).isNull());
+    ::close(pipe);
 }
 
 TEST(ThemeIcon, ANameOutsideTheThemeIsLookedForAmongThePixmaps)

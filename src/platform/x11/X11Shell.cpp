@@ -72,10 +72,25 @@ void X11Shell::noteComingBack()
 }
 
 // What is minimized a second later the user has minimized.
+bool X11Shell::justAskedBack() const
+{
+    return std::chrono::steady_clock::now() - m_askedBack < 1s;
+}
+
 bool X11Shell::isComingBack(const X11Window &window) const
 {
-    return std::ranges::count(m_comingBack, window.id) > 0
-           && std::chrono::steady_clock::now() - m_askedBack < 1s;
+    return std::ranges::count(m_comingBack, window.id) > 0 && justAskedBack();
+}
+
+// The window manager keeps no order among minimized windows: those that we have hidden come back in
+// the one they had, that in which the user worked last. Others come over them.
+void X11Shell::putInOrder(std::vector<X11Window> &windows) const
+{
+    const auto &order = m_hidden.empty() && justAskedBack() ? m_comingBack : m_hidden;
+    const auto rank = [&](const X11Window &window) {
+        return std::ranges::find(order, window.id) - order.begin();
+    };
+    std::ranges::stable_sort(windows, {}, rank);
 }
 
 void X11Shell::hide()
@@ -118,6 +133,7 @@ void X11Shell::unhide()
         return;
     std::vector<X11Window> back = ours();
     std::erase_if(back, [&](const X11Window &window) { return !isHiddenByUs(window); });
+    putInOrder(back);
     const xcb_window_t others = keyboardOfOthers();
     m_manager.restore(back, others);
     noteComingBack();
@@ -157,6 +173,7 @@ void X11Shell::activate()
     // When the user has minimized them all they are meant all.
     if (!std::ranges::all_of(windows, stays))
         std::erase_if(windows, stays);
+    putInOrder(windows);
     m_manager.raise(windows);
     noteComingBack();
     m_keyboardIsOurs = true;

@@ -37,7 +37,9 @@ public:
 private:
     std::vector<X11Window> ours() const;
     void noteComingBack();
+    bool justAskedBack() const;
     bool isComingBack(const X11Window &window) const;
+    void putInOrder(std::vector<X11Window> &windows) const;
     bool isHiddenByUs(const X11Window &window) const;
     xcb_window_t keyboardOfOthers() const;
     void keepKeyboardWith(xcb_window_t other, int looks);
