@@ -24,6 +24,9 @@ public:
     Seconds delay(Seconds from, Seconds to) const;
     /// For how long at a time, at the most.
     Seconds longest(Seconds from, Seconds to) const;
+    /// For how long in all the thread that takes pictures in this process was ready and had no
+    /// processor.
+    Seconds starved(Seconds from, Seconds to) const;
 
 private:
     struct Answer {
@@ -31,7 +34,13 @@ private:
         Seconds came;
     };
 
+    struct Starved {
+        Seconds at;
+        Seconds sum; // since that thread began
+    };
+
     static Seconds within(const Answer &answer, Seconds from, Seconds to);
+    Seconds sumAt(Seconds moment) const;
     void run();
 
     Clock &m_clock;
@@ -39,6 +48,7 @@ private:
     std::atomic<bool> m_isEnding = false;
     mutable std::mutex m_mutex;
     std::vector<Answer> m_answers;
+    std::vector<Starved> m_starved;
     std::thread m_thread;
 };
 

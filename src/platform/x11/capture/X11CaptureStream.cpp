@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <poll.h>
+#include <pthread.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -70,6 +71,8 @@ void X11CaptureStream::setSocket(int socket)
 
 void X11CaptureStream::run(const X11CaptureSource &source, const CaptureRequest &request)
 {
+    // In what lists the threads of a process.
+    pthread_setname_np(pthread_self(), "capture");
     X11Camera camera(source, request);
     const QString refusal = camera.refusal();
     m_opened.set_value(refusal);
