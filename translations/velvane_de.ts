@@ -232,6 +232,26 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Hintergrund entfernen</translation>
     </message>
     <message>
+        <source>W</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>Y</translation>
+    </message>
+    <message>
         <source>Demo</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Demo</translation>
@@ -252,16 +272,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>fps</translation>
     </message>
     <message>
-        <source>X</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>X</translation>
-    </message>
-    <message>
-        <source>Y</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>Y</translation>
-    </message>
-    <message>
         <source>Start X</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Start X</translation>
@@ -270,16 +280,6 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Start Y</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Start Y</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>B</translation>
-    </message>
-    <message>
-        <source>H</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>H</translation>
     </message>
     <message>
         <source>Canvas</source>

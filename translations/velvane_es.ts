@@ -232,6 +232,26 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Quitar fondo</translation>
     </message>
     <message>
+        <source>W</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>Al</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>Y</translation>
+    </message>
+    <message>
         <source>Demo</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Demo</translation>
@@ -252,16 +272,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>fps</translation>
     </message>
     <message>
-        <source>X</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>X</translation>
-    </message>
-    <message>
-        <source>Y</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>Y</translation>
-    </message>
-    <message>
         <source>Start X</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Inicio X</translation>
@@ -270,16 +280,6 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Start Y</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Inicio Y</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>An</translation>
-    </message>
-    <message>
-        <source>H</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>Al</translation>
     </message>
     <message>
         <source>Canvas</source>

@@ -232,6 +232,26 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Supprimer l’arrière-plan</translation>
     </message>
     <message>
+        <source>W</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>L</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>Y</translation>
+    </message>
+    <message>
         <source>Demo</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Démo</translation>
@@ -252,16 +272,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>i/s</translation>
     </message>
     <message>
-        <source>X</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>X</translation>
-    </message>
-    <message>
-        <source>Y</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>Y</translation>
-    </message>
-    <message>
         <source>Start X</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Départ X</translation>
@@ -270,16 +280,6 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Start Y</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>Départ Y</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>L</translation>
-    </message>
-    <message>
-        <source>H</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>H</translation>
     </message>
     <message>
         <source>Canvas</source>

@@ -232,6 +232,26 @@ Results go to standard output, messages and progress to standard error.
         <translation>背景を削除</translation>
     </message>
     <message>
+        <source>W</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>Y</translation>
+    </message>
+    <message>
         <source>Demo</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>デモ</translation>
@@ -252,16 +272,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>fps</translation>
     </message>
     <message>
-        <source>X</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>X</translation>
-    </message>
-    <message>
-        <source>Y</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>Y</translation>
-    </message>
-    <message>
         <source>Start X</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>開始X</translation>
@@ -270,16 +280,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Start Y</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>開始Y</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>幅</translation>
-    </message>
-    <message>
-        <source>H</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>高</translation>
     </message>
     <message>
         <source>Canvas</source>

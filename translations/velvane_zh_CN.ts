@@ -231,6 +231,26 @@ Results go to standard output, messages and progress to standard error.
         <translation>移除背景</translation>
     </message>
     <message>
+        <source>W</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>宽</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <extracomment>DemoSettingsForm</extracomment>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <extracomment>DemoSettingsForm, StepForm</extracomment>
+        <translation>Y</translation>
+    </message>
+    <message>
         <source>Demo</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>演示</translation>
@@ -251,16 +271,6 @@ Results go to standard output, messages and progress to standard error.
         <translation>帧/秒</translation>
     </message>
     <message>
-        <source>X</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>X</translation>
-    </message>
-    <message>
-        <source>Y</source>
-        <extracomment>DemoSettingsForm, StepForm</extracomment>
-        <translation>Y</translation>
-    </message>
-    <message>
         <source>Start X</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>起点 X</translation>
@@ -269,16 +279,6 @@ Results go to standard output, messages and progress to standard error.
         <source>Start Y</source>
         <extracomment>DemoSettingsForm</extracomment>
         <translation>起点 Y</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>宽</translation>
-    </message>
-    <message>
-        <source>H</source>
-        <extracomment>DemoSettingsForm</extracomment>
-        <translation>高</translation>
     </message>
     <message>
         <source>Canvas</source>

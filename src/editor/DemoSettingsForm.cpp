@@ -39,6 +39,17 @@ QPixmap thumbnailOf(const QImage &picture, qreal ratio)
 
 } // namespace
 
+// The fields of both rows stand below each other, however wide their letters are.
+int DemoSettingsForm::axisWidth(int column)
+{
+    const QFontMetrics metrics(Theme::font(TextSize::secondary));
+    const auto width = [&](const QString &text) {
+        return metrics.size(Qt::TextShowMnemonic, text).width();
+    };
+    return column == 0 ? std::max(width(tr("W")), width(tr("X")))
+                       : std::max(width(tr("H")), width(tr("Y")));
+}
+
 DemoSettingsForm::DemoSettingsForm(Project &project, FieldEditing &editing, Screens &screens,
                                    StatusLine &status, QWidget *parent)
     : QWidget(parent)
@@ -81,14 +92,9 @@ FormRow *DemoSettingsForm::addRow(const QString &label)
 void DemoSettingsForm::addNumbers(FormRow &row, const QStringList &texts, const QStringList &names,
                                   const QList<Field::Kind> &fields)
 {
-    // The fields of all rows stand below each other, however wide their letters are.
-    const QFontMetrics metrics(Theme::font(TextSize::secondary));
-    int width = 0;
-    for (const QString &text : {tr("W"), tr("H"), tr("X"), tr("Y")})
-        width = std::max(width, metrics.size(Qt::TextShowMnemonic, text).width());
     for (int i = 0; i < fields.size(); ++i) {
         if (!texts.at(i).isEmpty())
-            row.addText(texts.at(i), width);
+            row.addText(texts.at(i), axisWidth(i));
         auto *field =
             new NumberField(NumberField::Kind::coordinate, names.at(i), names.at(i), this);
         m_binding.add(*field, [kind = fields.at(i)] { return Field{kind}; });

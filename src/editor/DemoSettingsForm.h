@@ -23,6 +23,7 @@ public:
     void setLabelColumn(int width);
 
 private:
+    static int axisWidth(int column);
     FormRow *addRow(const QString &label);
     void addNumbers(FormRow &row, const QStringList &texts, const QStringList &names,
                     const QList<Field::Kind> &fields);
