@@ -2,7 +2,8 @@
 #include "X11Session.h"
 #include "support/Print.h"
 
-#include <signal.h>
+#include <csignal>
+#include <sys/socket.h>
 
 namespace velvane {
 
@@ -36,6 +37,19 @@ TEST(X11Server, WithoutTheRecordExtensionNothingMayListenOrPost)
     EXPECT_FALSE(permissions.granted(Permission::accessibility));
     EXPECT_TRUE(permissions.granted(Permission::screenRecording));
     EXPECT_TRUE(permissions.explanation(Permission::inputMonitoring).contains("RECORD"));
+}
+
+TEST(X11Server, WhatIsWrittenToOneThatWasLetGoIsAnErrorAndNoSignal)
+{
+    const TestServer server;
+    // As a program has it that starts no other.
+    std::signal(SIGPIPE, SIG_DFL);
+    const X11Connection connection(server.display());
+    ASSERT_TRUE(connection.isOpen());
+    shutdown(xcb_get_file_descriptor(connection.get()), SHUT_RDWR);
+    xcb_no_operation(connection.get());
+    EXPECT_LE(xcb_flush(connection.get()), 0);
+    EXPECT_FALSE(connection.isOpen());
 }
 
 TEST(X11Server, OneThatGoesAwayLeavesEmptyAnswers)

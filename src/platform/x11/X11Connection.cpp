@@ -1,5 +1,7 @@
 #include "platform/x11/X11Connection.h"
 
+#include <csignal>
+
 namespace velvane {
 
 namespace {
@@ -12,10 +14,21 @@ const xcb_screen_t *screenAt(const xcb_setup_t *setup, int number)
     return screens.rem > 0 ? screens.data : nullptr;
 }
 
+// What is written to a server that has gone, or that one has let go of meanwhile, is told as an
+// error, and no signal ends the program. Who has asked for the signal goes on to get it.
+void ignoreBrokenPipes()
+{
+    struct sigaction now {};
+    sigaction(SIGPIPE, nullptr, &now);
+    if (now.sa_handler == SIG_DFL)
+        std::signal(SIGPIPE, SIG_IGN);
+}
+
 } // namespace
 
 X11Connection::X11Connection(const QByteArray &display)
 {
+    ignoreBrokenPipes();
     int number = 0;
     m_connection = xcb_connect(display.isEmpty() ? nullptr : display.constData(), &number);
     if (!isOpen())
