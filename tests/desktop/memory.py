@@ -23,12 +23,19 @@ SETTLING = 60  # seconds after which threads without work have ended
 class Memory(RandomTest):
     seed = SEED
 
-    def resident(self):
-        """Megabytes of memory that the program holds."""
+    def memory(self, kind):
+        """Megabytes of this kind of memory that the program holds."""
         for line in open(f"/proc/{self.editor.process.pid}/status", encoding="utf-8"):
-            if line.startswith("VmRSS"):
+            if line.startswith(f"{kind}:"):
                 return int(line.split()[1]) / 1024
         raise AssertionError("the program has gone")
+
+    def resident(self):
+        return self.memory("VmRSS")
+
+    def tell_memory(self, when):
+        print(f"{when}: {self.resident():.1f} MB, of these {self.memory('RssFile'):.1f} MB of its "
+              "program and libraries", flush=True)
 
     def warm_up(self):
         self.start()
@@ -56,7 +63,7 @@ class Memory(RandomTest):
     def test_all_closed_it_holds_hardly_more_than_before(self):
         self.warm_up()
         before = self.settled(0)
-        print(f"before: {before:.1f} MB", flush=True)
+        self.tell_memory("before")
         try:
             while self.count < ACTS:
                 self.open(self.dice.choice([name for name in NAMES if name not in self.opened]))
@@ -66,13 +73,13 @@ class Memory(RandomTest):
                       flush=True)
                 if len(self.opened) > 2:
                     self.close_all()
-                    print(f"all closed: {self.resident():.1f} MB", flush=True)
+                    self.tell_memory("all closed")
             self.close_all()
         except BaseException:
             self.tell()
             raise
         after = self.settled(MORE * before)
-        print(f"{self.count} acts; before: {before:.1f} MB, all closed: {after:.1f} MB")
+        self.tell_memory(f"after {self.count} acts")
         self.assertLessEqual(after, MORE * before)
 
 

@@ -63,13 +63,14 @@ class Tasks:
 
     def record(self, clicks=None):
         """Clicks a little on the empty desktop, or ends it with Escape before it begins."""
+        answers = ["Match Screen", "Keep Canvas", "Cancel"] if clicks is None else ["Keep Canvas"]
         clicks = self.dice.randrange(6) - 3 if clicks is None else clicks
         self.focus_canvas()
         self.editor.key("ctrl+shift+r")
         if not within(3, lambda: self.floating() or self.extra()):
             return
         if not self.floating():
-            answer = self.dice.choice(["Match Screen", "Keep Canvas", "Cancel"])
+            answer = self.dice.choice(answers)
             self.answer(answer)
             if answer == "Cancel":
                 return
