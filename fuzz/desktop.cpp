@@ -15,8 +15,9 @@ QByteArray written(const QString &text)
         const auto at = escaped.indexOf(c);
         value += at < 0 ? QString(c) : escapes[at];
     }
-    // At the start it would be taken for the mark of a file's byte order.
-    if (value.startsWith(QChar::ByteOrderMark))
+    // What would be lost at the start: the mark of a file's byte order, and white space.
+    if (value.startsWith(QChar::ByteOrderMark) || value.startsWith(u'\v')
+        || value.startsWith(u'\f'))
         value.prepend(u'\\');
     return value.toUtf8();
 }

@@ -9,6 +9,7 @@
 #include "model/DocumentError.h"
 
 #include <QFileInfo>
+#include <QPixmapCache>
 
 namespace velvane {
 
@@ -150,7 +151,11 @@ void Documents::forget(QObject *window)
     if (m_isQuitting)
         return Q_EMIT quitReady();
     // Once what belonged to the window is gone too.
-    QMetaObject::invokeMethod(this, &returnFreeMemory, Qt::QueuedConnection);
+    const auto tidy = [] {
+        QPixmapCache::clear();
+        returnFreeMemory();
+    };
+    QMetaObject::invokeMethod(this, tidy, Qt::QueuedConnection);
     Q_EMIT lastWindowClosed();
 }
 

@@ -3,6 +3,7 @@
 #include "app/EditorWindow.h"
 #include "app/StartWindow.h"
 #include "app/UpdaterController.h"
+#include "base/FreeMemory.h"
 #include "cli/Console.h"
 #include "editor/Theme.h"
 #include "language/Languages.h"
@@ -156,6 +157,7 @@ int VelvaneApp::run(int &argc, char **argv, const Start &start)
                   << cli::help("(see velvane --help)") << '\n';
         return 1;
     }
+    useOneHeap();
     const QVariantMap platformData = AppService::platformData();
     const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     nameApplication();

@@ -40,6 +40,14 @@ void endHugePages()
 
 } // namespace
 
+void useOneHeap()
+{
+#ifdef __GLIBC__
+    // malloc_trim() returns the end of the main heap only.
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 void returnFreeMemory()
 {
 #ifdef __linux__

@@ -13,6 +13,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 
 PATIENCE = 20  # seconds that a loaded machine may take for what a desktop does at once
+Atspi.set_timeout(1000 * PATIENCE, 1000 * PATIENCE)  # for one answer of a program
 
 
 def wait_for(condition, what, patience=PATIENCE):

@@ -247,8 +247,11 @@ class Editor:
 
     def close_menu(self):
         """Closes all open menus without choosing."""
-        while len(self._menus()):
+        for _ in range(10):
+            if not self._menus():
+                return
             self.key("Escape")
+        raise AssertionError("the menus stay open")
 
     def _menu_bar(self, window):
         return next(child for child in window.children if child.role == "menu bar")
@@ -271,12 +274,13 @@ class Editor:
         self.wait_menu()
         items = []
         while True:
-            name = self._next_item()
+            name = self.next_item()
             if name in items:
                 return items
             items.append(name)
 
-    def _next_item(self):
+    def next_item(self):
+        """Goes to the next item of the open menu; its name."""
         before = self.focus.count
         self.key("Down")
         wait_for(lambda: self.focus.count > before, "the next item of the menu")
@@ -285,7 +289,7 @@ class Editor:
     def choose(self, name):
         """Walks the open menu to the item and chooses it."""
         for _ in range(50):
-            if self._next_item() == name:
+            if self.next_item() == name:
                 self.key("Return")
                 return self.wait_no_menu()
         raise AssertionError(f"the menu has no {name}")
