@@ -11,7 +11,7 @@ namespace velvane::Bookmark {
 namespace {
 
 constexpr qsizetype greatestBytes = 16 * 1024;
-// A folder of so many files is searched no further: the editor waits.
+// A folder of so many files is searched no further.
 constexpr int mostFiles = 10'000;
 
 // Lines: what this is, three numbers, the path.

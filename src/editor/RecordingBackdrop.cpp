@@ -1,5 +1,6 @@
 #include "editor/RecordingBackdrop.h"
 
+#include "base/Background.h"
 #include "capture/Bookmark.h"
 
 #include <QFileInfo>
@@ -54,15 +55,22 @@ QCoro::Task<> RecordingBackdrop::loadRecordingBackdrop()
 {
     if (!m_project.recordingBookmark())
         co_return;
-    const std::optional<QString> path = Bookmark::resolve(*m_project.recordingBookmark());
     const int load = ++m_loads;
+    const QPointer<RecordingBackdrop> self(this);
+    std::optional<QString> path;
+    // Looking through a folder takes long where the network is slow.
+    const std::function<void()> find = [&path, bookmark = *m_project.recordingBookmark()] {
+        path = Bookmark::resolve(bookmark);
+    };
+    co_await inBackground(find);
+    if (!self || load != m_loads)
+        co_return;
     if (!path) {
         m_status.setMessage(tr("Recording file is missing — backdrop unavailable."));
         m_backdrop.setShowRecording(false);
         co_return;
     }
     if (*path != m_video.url() || !(m_video.duration() > 0s)) {
-        const QPointer<RecordingBackdrop> self(this);
         co_await m_video.load(*path);
         if (!self || load != m_loads)
             co_return;

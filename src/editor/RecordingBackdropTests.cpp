@@ -131,7 +131,7 @@ TEST_F(RecordingBackdropTest, AMissingFileIsSaidAndTheBackdropGoesOff)
 {
     ASSERT_TRUE(QFile::remove(record("run.mp4")));
     backdrop.setShowRecording(true);
-    EXPECT_FALSE(backdrop.showRecording());
+    until([this] { return !backdrop.showRecording(); });
     EXPECT_EQ(status.message(), "Recording file is missing — backdrop unavailable.");
 }
 
@@ -139,7 +139,7 @@ TEST_F(RecordingBackdropTest, ABookmarkOfNonsenseIsAMissingFile)
 {
     project.setRecordingBookmark(QByteArray("nonsense"));
     backdrop.setShowRecording(true);
-    EXPECT_FALSE(backdrop.showRecording());
+    until([this] { return !backdrop.showRecording(); });
     EXPECT_EQ(status.message(), "Recording file is missing — backdrop unavailable.");
 }
 
@@ -183,7 +183,7 @@ TEST_F(RecordingBackdropTest, WhileItIsNotShownTheMovieStandsStill)
     playback.setTime(1s);
     EXPECT_EQ(recording.video().currentTime(), Seconds(0.2));
     backdrop.setShowRecording(true);
-    EXPECT_EQ(recording.video().currentTime(), Seconds(0.8));
+    until([this] { return recording.video().currentTime() == Seconds(0.8); });
 }
 
 TEST_F(RecordingBackdropTest, ANewRecordingReplacesTheShownOne)
@@ -191,9 +191,8 @@ TEST_F(RecordingBackdropTest, ANewRecordingReplacesTheShownOne)
     record("run.mp4");
     show();
     record("second.mp4");
-    EXPECT_EQ(recording.video().url(), file("second.mp4"));
+    until([this] { return recording.video().url() == file("second.mp4") && backdrop.hasFrame(); });
     EXPECT_TRUE(backdrop.showRecording());
-    until([this] { return backdrop.hasFrame(); });
 }
 
 TEST_F(RecordingBackdropTest, WithoutItsRecordingTheBackdropGoesOff)
