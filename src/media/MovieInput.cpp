@@ -1,16 +1,8 @@
 #include "media/MovieInput.h"
 
-#include "media/FragmentedFile.h"
-
 #include <QCoreApplication>
-#include <QFile>
 
-#include <cerrno>
 #include <limits>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -21,7 +13,6 @@ namespace velvane {
 
 namespace {
 
-constexpr int bufferBytes = 64 * 1024;
 // Enough for one picture of the largest size; a file that asks for more is broken.
 constexpr size_t greatestAllocation = size_t(1) << 28;
 // Sides and area as H.264 level 6.2 has them.
@@ -79,12 +70,6 @@ void MovieInput::Free::operator()(AVFormatContext *context) const
     avformat_close_input(&context);
 }
 
-void MovieInput::Free::operator()(AVIOContext *io) const
-{
-    av_freep(&io->buffer);
-    avio_context_free(&io);
-}
-
 void MovieInput::Free::operator()(AVPacket *packet) const
 {
     av_packet_free(&packet);
@@ -96,7 +81,7 @@ std::unique_ptr<MovieInput> MovieInput::open(const QString &path, const CancelCh
     setUpLibav();
     std::unique_ptr<MovieInput> input(new MovieInput);
     input->m_shouldCancel = shouldCancel;
-    error = input->openFile(path);
+    error = input->m_bytes.open(path, shouldCancel);
     if (error.isEmpty())
         error = input->openContainer();
     if (error.isEmpty())
@@ -109,6 +94,7 @@ std::unique_ptr<MovieInput> MovieInput::open(const QString &path, const CancelCh
     if (input->isCancelled())
         error = reasonOf(AVERROR_EXIT);
     input->m_shouldCancel = {};
+    input->m_bytes.doNotCancel();
     if (!error.isEmpty())
         return nullptr;
     return input;
@@ -116,37 +102,16 @@ std::unique_ptr<MovieInput> MovieInput::open(const QString &path, const CancelCh
 
 MovieInput::MovieInput() : m_packet(av_packet_alloc()) {}
 
-MovieInput::~MovieInput()
-{
-    m_format.reset();
-    m_io.reset();
-    if (m_file >= 0)
-        ::close(m_file);
-}
-
-QString MovieInput::openFile(const QString &path)
-{
-    // Not blocking: a named pipe would otherwise wait for its writer.
-    m_file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    struct stat about {};
-    if (m_file < 0 || ::fstat(m_file, &about) != 0)
-        return qt_error_string(errno);
-    if (!S_ISREG(about.st_mode))
-        return QCoreApplication::translate("MovieInput", "Not a regular file.");
-    m_end = FragmentedFile::wholeEnd(m_file, about.st_size, m_shouldCancel);
-    return {};
-}
+MovieInput::~MovieInput() = default;
 
 QString MovieInput::openContainer()
 {
-    auto *buffer = static_cast<std::uint8_t *>(av_malloc(bufferBytes));
-    m_io.reset(avio_alloc_context(buffer, bufferBytes, 0, this, read, nullptr, seekBytes));
     AVFormatContext *format = avformat_alloc_context();
-    if (!m_packet || !m_io || !format) {
+    if (!m_packet || !m_bytes.io() || !format) {
         avformat_free_context(format);
         return reasonOf(AVERROR(ENOMEM));
     }
-    format->pb = m_io.get();
+    format->pb = m_bytes.io();
     format->io_open = refuse;
     format->interrupt_callback = {
         [](void *self) { return int(static_cast<MovieInput *>(self)->isCancelled()); }, this};
@@ -269,44 +234,6 @@ bool MovieInput::hasKeyBefore(Seconds time) const
     const AVIndexEntry *key =
         avformat_index_get_entry_from_timestamp(m_track, ticks, AVSEEK_FLAG_BACKWARD);
     return key && key->timestamp > m_lastRead;
-}
-
-int MovieInput::read(void *self, std::uint8_t *bytes, int count)
-{
-    auto &input = *static_cast<MovieInput *>(self);
-    for (;;) {
-        if (input.isCancelled())
-            return AVERROR_EXIT;
-        const std::int64_t left = std::max<std::int64_t>(input.m_end - input.m_position, 0);
-        const auto wanted = size_t(std::min<std::int64_t>(count, left));
-        const ssize_t done = ::pread(input.m_file, bytes, wanted, input.m_position);
-        if (done < 0 && errno == EINTR)
-            continue;
-        if (done <= 0)
-            return done < 0 ? AVERROR(errno) : AVERROR_EOF;
-        input.m_position += done;
-        return int(done);
-    }
-}
-
-std::int64_t MovieInput::seekBytes(void *self, std::int64_t offset, int whence)
-{
-    auto &input = *static_cast<MovieInput *>(self);
-    switch (whence & ~AVSEEK_FORCE) {
-    case AVSEEK_SIZE:
-        return input.m_end;
-    case SEEK_CUR:
-        offset += input.m_position;
-        break;
-    case SEEK_END:
-        offset += input.m_end;
-        break;
-    default:
-        break;
-    }
-    if (offset < 0)
-        return AVERROR(EINVAL);
-    return input.m_position = offset;
 }
 
 } // namespace velvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/CancelCheck.h"
+#include "media/MovieBytes.h"
 #include "media/MoviePicture.h"
 
 #include <QString>
@@ -9,7 +9,6 @@
 
 struct AVCodecParameters;
 struct AVFormatContext;
-struct AVIOContext;
 struct AVPacket;
 struct AVStream;
 
@@ -46,27 +45,19 @@ public:
 private:
     struct Free {
         void operator()(AVFormatContext *context) const;
-        void operator()(AVIOContext *io) const;
         void operator()(AVPacket *packet) const;
     };
 
     MovieInput();
-    QString openFile(const QString &path);
     QString openContainer();
     QString findTrack();
     void findDuration();
     Seconds scanDuration();
     bool isCancelled() const { return m_shouldCancel && m_shouldCancel(); }
 
-    static int read(void *self, std::uint8_t *bytes, int count);
-    static std::int64_t seekBytes(void *self, std::int64_t offset, int whence);
-
-    int m_file = -1;
-    std::int64_t m_end = 0; ///< no more is read, whatever the file may become meanwhile
-    std::int64_t m_position = 0;
+    MovieBytes m_bytes;
     /// While the file is opened; afterwards reading is quick and never broken off.
     CancelCheck m_shouldCancel;
-    std::unique_ptr<AVIOContext, Free> m_io;
     std::unique_ptr<AVFormatContext, Free> m_format;
     std::unique_ptr<AVPacket, Free> m_packet;
     AVStream *m_track = nullptr;
