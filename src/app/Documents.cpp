@@ -7,6 +7,7 @@
 #include "base/FreeMemory.h"
 #include "editor/ContentView.h"
 #include "model/DocumentError.h"
+#include "platform/ToolkitMemory.h"
 
 #include <QFileInfo>
 #include <QPixmapCache>
@@ -170,6 +171,7 @@ void Documents::tidy()
     if (!m_windows.isEmpty())
         return;
     QPixmapCache::clear();
+    returnToolkitMemory();
     returnFreeMemory();
 }
 
