@@ -7,11 +7,19 @@
 #include "base/FreeMemory.h"
 #include "editor/ContentView.h"
 #include "model/DocumentError.h"
+#include "platform/ToolkitMemory.h"
 
 #include <QFileInfo>
 #include <QPixmapCache>
 
 namespace velvane {
+
+namespace {
+
+// Qt ends a thread that had no work for 30 s; with it goes what the thread knew of fonts.
+constexpr auto threadsEnd = std::chrono::seconds(40);
+
+} // namespace
 
 Documents::Documents(Desktop &desktop, QSettings &settings)
     : m_desktop(desktop)
@@ -24,6 +32,8 @@ Documents::Documents(Desktop &desktop, QSettings &settings)
         m_desktop.shell().noteRecent(path, QStringLiteral("application/vnd.orvikel.velvane"));
     });
     connect(&m_recents, &RecentDemos::cleared, this, [this] { m_desktop.shell().forgetRecent(); });
+    m_threadsEnd.setSingleShot(true);
+    connect(&m_threadsEnd, &QTimer::timeout, this, &Documents::tidy);
 }
 
 Documents::~Documents()
@@ -150,13 +160,19 @@ void Documents::forget(QObject *window)
         return;
     if (m_isQuitting)
         return Q_EMIT quitReady();
-    // Once what belonged to the window is gone too.
-    const auto tidy = [] {
-        QPixmapCache::clear();
-        returnFreeMemory();
-    };
-    QMetaObject::invokeMethod(this, tidy, Qt::QueuedConnection);
+    // Once what belonged to the window is gone too, and once what the threads kept is.
+    QMetaObject::invokeMethod(this, &Documents::tidy, Qt::QueuedConnection);
+    m_threadsEnd.start(threadsEnd);
     Q_EMIT lastWindowClosed();
+}
+
+void Documents::tidy()
+{
+    if (!m_windows.isEmpty())
+        return;
+    QPixmapCache::clear();
+    returnToolkitMemory();
+    returnFreeMemory();
 }
 
 void Documents::quit()

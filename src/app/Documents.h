@@ -8,6 +8,7 @@
 
 #include <QPointer>
 #include <QSettings>
+#include <QTimer>
 
 #include <utility>
 
@@ -84,6 +85,8 @@ Q_SIGNALS:
 
 private:
     void forget(QObject *window);
+    /// While no demo is open, gives back the memory that closed ones have left.
+    void tidy();
     void closeAll();
     int freeUntitledNumber() const;
 
@@ -94,6 +97,7 @@ private:
     AppCatalog m_apps;
     TaskbarProgress m_taskbar;
     QList<EditorWindow *> m_windows;
+    QTimer m_threadsEnd;
     bool m_isQuitting = false;
 };
 

@@ -2,6 +2,8 @@
 #include "app/Question.h"
 #include "support/Until.h"
 
+#include <QPixmapCache>
+
 namespace velvane {
 
 namespace {
@@ -62,6 +64,33 @@ TEST_F(DocumentsTest, TheDesktopForgetsRecentDemosWhenTheyAreCleared)
     EXPECT_EQ(desktop.log().filter("forget recent").size(), 0);
     documents.recents().clear();
     EXPECT_EQ(desktop.log().filter("forget recent").size(), 1);
+}
+
+TEST_F(DocumentsTest, PicturesAreKeptUntilTheLastDemoIsClosed)
+{
+    const QString key = "a picture";
+    EditorWindow *first = documents.newDemo();
+    EditorWindow *last = documents.newDemo();
+    QPixmapCache::insert(key, QPixmap(8, 8));
+    first->close();
+    settle();
+    EXPECT_TRUE(QPixmapCache::find(key, nullptr));
+    last->close();
+    settle();
+    EXPECT_FALSE(QPixmapCache::find(key, nullptr));
+}
+
+TEST_F(DocumentsTest, PicturesAreKeptWhenAnotherDemoOpensAtOnce)
+{
+    const QString key = "a picture";
+    EditorWindow *window = documents.newDemo();
+    QObject::connect(&documents, &Documents::lastWindowClosed, &documents,
+                     [this] { documents.newDemo(); });
+    QPixmapCache::insert(key, QPixmap(8, 8));
+    window->close();
+    settle();
+    EXPECT_EQ(documents.windows().size(), 1);
+    EXPECT_TRUE(QPixmapCache::find(key, nullptr));
 }
 
 TEST_F(DocumentsTest, AFileIsOpenInOneWindowOnly)
