@@ -31,15 +31,21 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
 install(FILES ${CMAKE_SOURCE_DIR}/data/debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 find_program(GZIP gzip REQUIRED)
 # Compressed as Debian wants them: without a name and a time, so that each build makes the same.
-function(velvane_compressed source target destination)
-    set(compressed ${CMAKE_BINARY_DIR}/compressed/${target}.gz)
-    add_custom_command(OUTPUT ${compressed}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/compressed
-        COMMAND ${GZIP} -9nc ${source} > ${compressed}
+function(velvane_compressed source destination)
+    get_filename_component(name ${source} NAME)
+    set(folder ${CMAKE_BINARY_DIR}/compressed/${destination})
+    add_custom_command(OUTPUT ${folder}/${name}.gz
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
+        COMMAND ${GZIP} -9nc ${source} > ${folder}/${name}.gz
         DEPENDS ${source} VERBATIM)
-    add_custom_target(compressed-${target} ALL DEPENDS ${compressed})
-    install(FILES ${compressed} DESTINATION ${destination})
+    install(FILES ${folder}/${name}.gz DESTINATION ${destination})
+    set(compressed ${compressed} ${folder}/${name}.gz PARENT_SCOPE)
 endfunction()
-velvane_compressed(${CMAKE_SOURCE_DIR}/data/debian/changelog changelog ${CMAKE_INSTALL_DOCDIR})
-velvane_compressed(${CMAKE_SOURCE_DIR}/data/velvane.1 velvane.1 ${CMAKE_INSTALL_MANDIR}/man1)
+velvane_compressed(${CMAKE_SOURCE_DIR}/data/debian/changelog ${CMAKE_INSTALL_DOCDIR})
+velvane_compressed(${CMAKE_SOURCE_DIR}/data/velvane.1 ${CMAKE_INSTALL_MANDIR}/man1)
+foreach(language ${help_languages})
+    velvane_compressed(${CMAKE_BINARY_DIR}/share/man/${language}/man1/velvane.1
+        ${CMAKE_INSTALL_MANDIR}/${language}/man1)
+endforeach()
+add_custom_target(compressed ALL DEPENDS ${compressed})
 include(CPack)

@@ -1,6 +1,7 @@
 #include "app/HelpPage.h"
 
 #include "app/WebPage.h"
+#include "language/Languages.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -15,15 +16,26 @@ namespace {
 QString installedPage()
 {
     const QString folder = QCoreApplication::applicationDirPath();
-    for (const char *place : {"/help/docs.html", "/../share/velvane/help/docs.html"}) {
-        const QFileInfo file(folder + QLatin1String(place));
-        if (file.isFile())
-            return file.canonicalFilePath();
+    for (const char *place : {"/share/velvane/help", "/../share/velvane/help"}) {
+        const QString page = HelpPlaces::pageIn(folder + QLatin1String(place), Languages::chosen());
+        if (!page.isEmpty())
+            return page;
     }
     return {};
 }
 
 } // namespace
+
+QString HelpPlaces::pageIn(const QString &folder, const QString &language)
+{
+    const QString plain = language.section(u'_', 0, 0);
+    for (const QString &suffix : {QString(u'.' + language), QString(u'.' + plain), QString()}) {
+        const QFileInfo file(folder + "/docs" + suffix + ".html");
+        if (file.isFile())
+            return file.canonicalFilePath();
+    }
+    return {};
+}
 
 HelpPlaces HelpPlaces::usual()
 {

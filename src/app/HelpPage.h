@@ -14,8 +14,12 @@ struct HelpPlaces {
     QString local;
 
     /// The page on the product's site, whose host is chosen when the program is built and replaced
-    /// by the environment's VELVANE_SITE, and the one installed with the program or beside it.
+    /// by the environment's VELVANE_SITE, and the one in the program's language that is installed
+    /// with the program or was built with it.
     static HelpPlaces usual();
+    /// The page of a folder in a language like "de" or "zh_CN", or in that without its region, or
+    /// in English; empty when there is none.
+    static QString pageIn(const QString &folder, const QString &language);
 };
 
 /// Shows the documentation: the page online, or the installed one when that cannot be had. Main

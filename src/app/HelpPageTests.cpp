@@ -1,5 +1,6 @@
 #include "app/HelpPage.h"
 
+#include "language/Languages.h"
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
 
@@ -62,6 +63,15 @@ struct HelpPageTest : testing::Test {
         return failed ? QStringList("failed") : desktop.log();
     }
 
+    // The name of the page that is chosen among these.
+    static QString pageIn(const QStringList &names, const QString &language)
+    {
+        const QTemporaryDir folder;
+        for (const QString &name : names)
+            EXPECT_TRUE(QFile(folder.filePath(name)).open(QFile::WriteOnly));
+        return QFileInfo(HelpPlaces::pageIn(folder.path(), language)).fileName();
+    }
+
     SimulatedDesktop desktop;
     const QString file = "/usr/share/velvane/help/docs.html";
     const QString local = "open file://" + file;
@@ -110,6 +120,45 @@ TEST_F(HelpPageTest, WhatNothingShowsIsTold)
     const Site site("200 OK");
     desktop.shell().setMissing("nothing opens addresses");
     EXPECT_EQ(opened({site.page(), file}), QStringList("failed"));
+}
+
+TEST_F(HelpPageTest, TheInstalledPageIsInTheProgramsLanguage)
+{
+    EXPECT_EQ(pageIn({"docs.html", "docs.de.html", "docs.zh_CN.html"}, "de"), "docs.de.html");
+    EXPECT_EQ(pageIn({"docs.html", "docs.de.html", "docs.zh_CN.html"}, "zh_CN"), "docs.zh_CN.html");
+    EXPECT_EQ(pageIn({"docs.html", "docs.de.html", "docs.zh_CN.html"}, "en"), "docs.html");
+}
+
+TEST_F(HelpPageTest, ALanguageWithoutItsRegionComesBeforeEnglish)
+{
+    EXPECT_EQ(pageIn({"docs.html", "docs.pt.html", "docs.pt_BR.html"}, "pt_BR"), "docs.pt_BR.html");
+    EXPECT_EQ(pageIn({"docs.html", "docs.pt.html"}, "pt_BR"), "docs.pt.html");
+    EXPECT_EQ(pageIn({"docs.html", "docs.pt_PT.html"}, "pt_BR"), "docs.html");
+}
+
+TEST_F(HelpPageTest, TheInstalledPageIsEnglishWhereThatIsAllThereIs)
+{
+    EXPECT_EQ(pageIn({"docs.html"}, "de"), "docs.html");
+    EXPECT_EQ(pageIn({"docs.de.html"}, "fr"), "");
+    EXPECT_EQ(pageIn({}, "en"), "");
+}
+
+TEST_F(HelpPageTest, APageIsFoundThroughALink)
+{
+    const QTemporaryDir source;
+    const QTemporaryDir build;
+    ASSERT_TRUE(QFile(source.filePath("docs.html")).open(QFile::WriteOnly));
+    ASSERT_TRUE(QFile::link(source.filePath("docs.html"), build.filePath("docs.html")));
+    EXPECT_EQ(HelpPlaces::pageIn(build.path(), "ja"),
+              QFileInfo(source.filePath("docs.html")).canonicalFilePath());
+}
+
+TEST_F(HelpPageTest, TheOnlinePageIsTheSameInAllLanguages)
+{
+    const QUrl english = HelpPlaces::usual().online;
+    Languages::choose("de");
+    EXPECT_EQ(HelpPlaces::usual().online, english);
+    Languages::choose("en");
 }
 
 TEST_F(HelpPageTest, TheEnvironmentMayNameAnotherSite)

@@ -143,18 +143,27 @@ class Items(EditorTest):
             editor.wait_question("The documentation could not be opened.")
             editor.answer("OK")
 
-    def test_without_a_network_the_help_that_came_with_the_program_opens(self):
+    def help_opened(self, **environment):
+        """The page that opens where there is no network."""
         opened = self.folder / "opened"
         browser = self.folder / "xdg-open"
         browser.write_text(f'#!/bin/sh\nprintf "%s\\n" "$1" >>"{opened}"\n')
         browser.chmod(0o755)
         write_demo(self.demo, step("click"))
-        editor = self.run_editor(PATH=f"{self.folder}:{os.environ['PATH']}")
-        editor.choose_item("Help", "Velvane Help")
+        editor = self.run_editor(PATH=f"{self.folder}:{os.environ['PATH']}", **environment)
+        editor.key("ctrl+question")
         editor.wait(lambda: opened.exists() and opened.read_text(), "the page to be opened")
         page = urllib.parse.urlparse(opened.read_text().strip())
         self.assertEqual(page.scheme, "file")
-        self.assertIn("<title>Velvane Help</title>", Path(page.path).read_text())
+        return Path(page.path).read_text()
+
+    def test_without_a_network_the_help_that_came_with_the_program_opens(self):
+        self.assertIn("<title>Velvane Help</title>", self.help_opened())
+
+    def test_that_help_is_in_the_programs_language(self):
+        page = self.help_opened(LANGUAGE="zh_CN:en")
+        self.assertIn('<html lang="zh-CN">', page)
+        self.assertIn("<title>Velvane 帮助</title>", page)
 
 
 class TwoWindows(EditorTest):

@@ -2,6 +2,7 @@
 """The help is whole by itself, and names what the program has."""
 
 import re
+import xml.etree.ElementTree as ElementTree
 from html.parser import HTMLParser
 
 from staging import SOURCE, Staged, main, run
@@ -41,8 +42,8 @@ class Help(Staged):
 
     def test_all_that_it_shows_is_installed_with_it(self):
         self.assertGreaterEqual(len(self.page.resources), 6)
-        installed = {path.name for path in self.folder.iterdir()}
-        self.assertEqual(installed - {"docs.html"}, self.page.resources)
+        installed = {path.name for path in self.folder.iterdir() if path.suffix != ".html"}
+        self.assertEqual(installed, self.page.resources)
         self.assertNotRegex(self.source, r"url\(|@import")
 
     def test_each_link_leads_to_a_place_in_it(self):
@@ -72,9 +73,8 @@ class Help(Staged):
         self.assertLessEqual(set(commands), set(named))
 
     def test_it_is_well_formed(self):
-        for tag in ("div", "table", "tr", "td", "ul", "ol", "li", "p", "figure", "picture", "main"):
-            opened = len(re.findall(rf"<{tag}[ >]", self.source))
-            self.assertEqual(opened, self.source.count(f"</{tag}>"), tag)
+        # It is XML too, as its translators need it.
+        self.assertEqual(ElementTree.fromstring(self.source).tag, "html")
 
 
 if __name__ == "__main__":

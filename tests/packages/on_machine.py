@@ -94,6 +94,11 @@ class Terminal(OnMachine):
         self.assertIn("SYNOPSIS", page)
         self.assertIn("velvane", told("man", "--whatis", "velvane"))
 
+    def test_the_manual_is_there_in_other_languages(self):
+        page = told("man", "--locale=ja", "velvane",
+                    env={"PATH": "/usr/bin:/bin", "MANPAGER": "cat", "LC_ALL": "C.UTF-8"})
+        self.assertIn("書式", page)
+
     def test_the_shell_completes_it(self):
         script = ("source /usr/share/bash-completion/bash_completion; _completion_loader velvane; "
                   "COMP_WORDS=(velvane '') COMP_CWORD=1 COMP_LINE='velvane ' COMP_POINT=8; "
