@@ -7,8 +7,9 @@ namespace velvane::ThemeStyle {
 namespace {
 
 // Words in @ are colours by role. A focused control's border grows inwards: its padding shrinks
-// by as much, so nothing shifts.
+// by as much, so nothing shifts. The style's own frame of the focus would be a second one inside.
 const auto controls = QStringLiteral(R"(
+QPushButton, QCheckBox, QComboBox, QToolButton, QAbstractItemView { outline: none; }
 QPushButton {
     background: @button; border: 1px solid @buttonBorder; border-radius: 6px;
     padding: 4px 10px; min-height: 18px; color: @text;

@@ -6,6 +6,7 @@
 
 #include <QDirIterator>
 #include <QPainter>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -76,6 +77,23 @@ TEST(ThemeStyle, DisabledTextHasItsOwnColour)
     EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text), ThemeColors::light().disabled);
     EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::Highlight),
               ThemeColors::light().inactiveSelection);
+}
+
+TEST(ThemeStyle, AFocusedButtonHasNoSecondFrameInside)
+{
+    const ThemeColors colors = ThemeColors::light();
+    QPushButton button;
+    button.setStyleSheet(ThemeStyle::sheet(colors));
+    button.resize(120, 28);
+    button.show();
+    button.activateWindow();
+    button.setFocus(Qt::TabFocusReason);
+    button.setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(button.hasFocus());
+    // Within the border and its round corners.
+    const QPixmap inside = button.grab(button.rect().adjusted(6, 3, -6, -3));
+    EXPECT_EQ(painted(inside, colors.button), inside.width() * inside.height());
 }
 
 TEST(SystemAppearance, TheSchemeIsTakenFromThePortal)
