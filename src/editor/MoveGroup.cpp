@@ -1,6 +1,7 @@
 #include "editor/MoveGroup.h"
 
 #include "base/Graphemes.h"
+#include "base/OneDecimal.h"
 
 #include <QCoreApplication>
 
@@ -38,7 +39,7 @@ QString actionText(const Step &step)
 {
     switch (step.kind) {
     case StepKind::wait:
-        return translated("Wait %1s").arg(step.pauseAfter.count(), 0, 'f', 1);
+        return translated("Wait %1s").arg(oneDecimal(step.pauseAfter.count()));
     case StepKind::shortcut: {
         const QString keys = step.shortcutDisplay();
         return keys.isEmpty() ? translated("Keys") : keys;

@@ -1,5 +1,6 @@
 #include "editor/StepListModel.h"
 
+#include "base/OneDecimal.h"
 #include "model/StepList.h"
 #include "timeline/Timeline.h"
 
@@ -79,7 +80,7 @@ QList<Run> runsOutside(const QList<StepRow> &rows, const QSet<QUuid> &ids)
 
 QString lengthText(Seconds length)
 {
-    return StepListModel::tr("%1s").arg(length.count(), 0, 'f', 1);
+    return StepListModel::tr("%1s").arg(oneDecimal(length.count()));
 }
 
 QString spoken(const StepRow &row)
