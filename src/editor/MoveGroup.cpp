@@ -2,6 +2,7 @@
 
 #include "base/Graphemes.h"
 #include "base/OneDecimal.h"
+#include "base/PlainLine.h"
 
 #include <QCoreApplication>
 
@@ -47,7 +48,8 @@ QString actionText(const Step &step)
     case StepKind::type:
         if (step.text.isEmpty())
             return translated("Type");
-        return QChar(0x201c) + Graphemes::prefix(step.text, shownCharacters) + QChar(0x201d);
+        return QChar(0x201c) + withVisibleBreaks(Graphemes::prefix(step.text, shownCharacters))
+               + QChar(0x201d);
     default:
         return label(step.kind);
     }

@@ -85,6 +85,11 @@ TEST(ActionText, AWaitsLengthIsWrittenAsTheUsersLanguageDoes)
     EXPECT_EQ(german, "Wait 1,5s");
 }
 
+TEST(ActionText, ATextOfSeveralLinesStaysOneLine)
+{
+    EXPECT_EQ(actionText(stepOf(StepKind::type, "one\ntwo")), "“one⏎two”");
+}
+
 TEST(ActionText, ATextOfTwentyCharactersShowsItsFirstFourteenInCurlyQuotes)
 {
     EXPECT_EQ(actionText(stepOf(StepKind::type, "ABCDEFGHIJKLMNOPQRST")), "“ABCDEFGHIJKLMN”");
