@@ -125,6 +125,23 @@ QItemSelection StepListModel::rowsOf(const QSet<QUuid> &ids) const
     return selection;
 }
 
+std::optional<int> StepListModel::rowPast(int row, bool isUp) const
+{
+    const int count = rowCount();
+    const bool isSection = this->row(row).step.kind == StepKind::section;
+    const auto nextUnit = [&](int from, int by) {
+        do
+            from += by;
+        while (isSection && from > 0 && from < count
+               && this->row(from).step.kind != StepKind::section);
+        return from;
+    };
+    if (isUp)
+        return row > 0 ? std::optional(nextUnit(row, -1)) : std::nullopt;
+    const int neighbour = nextUnit(row, 1);
+    return neighbour < count ? std::optional(nextUnit(neighbour, 1)) : std::nullopt;
+}
+
 int StepListModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
