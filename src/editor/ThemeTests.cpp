@@ -4,7 +4,9 @@
 #include "editor/ThemeStyle.h"
 #include "support/Print.h"
 
+#include <QDialog>
 #include <QDirIterator>
+#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 
@@ -94,6 +96,24 @@ TEST(ThemeStyle, AFocusedButtonHasNoSecondFrameInside)
     // Within the border and its round corners.
     const QPixmap inside = button.grab(button.rect().adjusted(6, 3, -6, -3));
     EXPECT_EQ(painted(inside, colors.button), inside.width() * inside.height());
+}
+
+TEST(ThemeStyle, AListInADialogShowsItsFocus)
+{
+    const ThemeColors colors = ThemeColors::dark();
+    QDialog dialog;
+    dialog.setStyleSheet(ThemeStyle::sheet(colors));
+    QListWidget list(&dialog);
+    dialog.show();
+    dialog.activateWindow();
+    const auto edge = [&] {
+        QCoreApplication::processEvents();
+        return list.grab().toImage().pixelColor(list.width() / 2, 0);
+    };
+    list.setFocus();
+    EXPECT_EQ(edge(), colors.accent);
+    list.clearFocus();
+    EXPECT_EQ(edge(), colors.hairline);
 }
 
 TEST(SystemAppearance, TheSchemeIsTakenFromThePortal)
