@@ -2,6 +2,7 @@
 #include "editor/SystemAppearance.h"
 #include "editor/Theme.h"
 #include "editor/ThemeStyle.h"
+#include "editor/WindowStyle.h"
 #include "support/Print.h"
 
 #include <QDialog>
@@ -137,6 +138,34 @@ TEST(SystemAppearance, OtherSettingsAreIgnored)
     system.take("org.gnome.desktop.interface", "color-scheme", 1U);
     system.take(appearance, "contrast", 1U);
     EXPECT_EQ(system.prefersDark(), std::nullopt);
+}
+
+TEST(SystemAppearance, LessMotionIsWantedByEitherSetting)
+{
+    SystemAppearance system;
+    int changes = 0;
+    QObject::connect(&system, &SystemAppearance::changed, [&] { ++changes; });
+    EXPECT_FALSE(system.wantsLessMotion());
+    system.take(appearance, "reduced-motion", 1U);
+    EXPECT_TRUE(system.wantsLessMotion());
+    system.take(appearance, "reduced-motion", 0U);
+    EXPECT_FALSE(system.wantsLessMotion());
+    system.take("org.gnome.desktop.interface", "enable-animations", false);
+    EXPECT_TRUE(system.wantsLessMotion());
+    system.take("org.gnome.desktop.interface", "enable-animations", true);
+    EXPECT_FALSE(system.wantsLessMotion());
+    EXPECT_EQ(changes, 4);
+}
+
+TEST(WindowStyle, AStillOneTakesNoTimeForAnimations)
+{
+    WindowStyle style;
+    const int usual = style.styleHint(QStyle::SH_Widget_Animation_Duration, {}, {}, {});
+    EXPECT_GT(usual, 0);
+    style.setStill(true);
+    EXPECT_EQ(style.styleHint(QStyle::SH_Widget_Animation_Duration, {}, {}, {}), 0);
+    style.setStill(false);
+    EXPECT_EQ(style.styleHint(QStyle::SH_Widget_Animation_Duration, {}, {}, {}), usual);
 }
 
 TEST(SystemAppearance, AnAccentThatIsNoColourIsNone)
