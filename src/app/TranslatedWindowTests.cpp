@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScrollArea>
 
 namespace velvane {
 
@@ -105,6 +106,11 @@ void expectWhole(const QWidget *window, const std::string &where)
         const bool whole = !label->isVisible() || lackingWidth(label) <= 0;
         EXPECT_TRUE(whole) << where << ": " << label->text().toStdString() << " lacks "
                            << lackingWidth(label);
+    }
+    // What is too wide for a pane that scrolls up and down is cut off there.
+    for (const QScrollArea *area : window->findChildren<QScrollArea *>()) {
+        const int lacking = area->widget()->width() - area->viewport()->width();
+        EXPECT_TRUE(!area->isVisible() || lacking <= 0) << where << ": lacks " << lacking;
     }
     for (const QAbstractButton *button : window->findChildren<QAbstractButton *>()) {
         const bool whole = !button->isVisible() || lackingWidth(button) <= 0;

@@ -53,4 +53,12 @@ QString plainLine(QStringView text, qsizetype longest)
     return count > longest || !isShort ? line + QChar(0x2026) : line;
 }
 
+QString withVisibleBreaks(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (const char16_t lineBreak : {u'\n', u'\v', u'\f', u'\r', u'\x85', u'\u2028', u'\u2029'})
+        text.replace(QChar(lineBreak), QChar(0x23CE));
+    return text;
+}
+
 } // namespace velvane

@@ -14,4 +14,8 @@ namespace velvane {
 /// where they continue a character, as in the emoji of a family.
 QString plainLine(QStringView text, qsizetype longest = std::numeric_limits<qsizetype>::max());
 
+/// The text in one line, in which ⏎ stands for each line break, of whatever kind. Nothing else
+/// is changed.
+QString withVisibleBreaks(QString text);
+
 } // namespace velvane

@@ -48,4 +48,12 @@ TEST(PlainLine, AccentsPiledUpWithoutEndAreCutToo)
     EXPECT_TRUE(line.endsWith(u'…'));
 }
 
+TEST(WithVisibleBreaks, EachLineBreakOfWhateverKindIsOneSign)
+{
+    EXPECT_EQ(withVisibleBreaks("one\ntwo\r\nthree\rfour"), "one⏎two⏎three⏎four");
+    EXPECT_EQ(withVisibleBreaks(QStringLiteral(u"one\u2028two\u2029three")), "one⏎two⏎three");
+    EXPECT_EQ(withVisibleBreaks("\n\n"), "⏎⏎");
+    EXPECT_EQ(withVisibleBreaks("one line"), "one line");
+}
+
 } // namespace velvane

@@ -17,8 +17,8 @@ constexpr int cellHeight = 46;
 constexpr int cellWidth = 44;
 constexpr int iconTop = 6;
 constexpr int labelTop = 27;
-constexpr int labelHeight = 14;
-constexpr int narrowest = 70; // per cent of the width of letters
+constexpr int labelBottom = 5; // from the cell's bottom
+constexpr int narrowest = 70;  // per cent of the width of letters
 
 /// Families are parted by a line, as their tiles part them in the list.
 bool beginsFamily(StepKind kind)
@@ -40,7 +40,9 @@ AddStepButton::AddStepButton(StepKind kind, QWidget *parent) : QAbstractButton(p
 
 QSize AddStepButton::sizeHint() const
 {
-    return {cellWidth, cellHeight};
+    // Higher than it is designed only for large letters.
+    const int label = QFontMetrics(Theme::font(TextSize::small)).height();
+    return {cellWidth, std::max(cellHeight, labelTop + label + labelBottom)};
 }
 
 QFont AddStepButton::labelFont() const
@@ -75,7 +77,8 @@ void AddStepButton::paintEvent(QPaintEvent *)
                 Metrics::icon);
     painter.setFont(labelFont());
     painter.setPen(color);
-    painter.drawText(QRectF(0, labelTop, whole.width(), labelHeight), Qt::AlignCenter,
+    painter.drawText(QRectF(0, labelTop, whole.width(), whole.height() - labelTop - labelBottom),
+                     Qt::AlignCenter,
                      painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }
 

@@ -5,9 +5,11 @@
 #include "editor/PreviewCanvas.h"
 #include "editor/SegmentBar.h"
 #include "editor/StepListPane.h"
+#include "editor/Theme.h"
 #include "support/EditorFixture.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -120,6 +122,19 @@ TEST_F(ContentViewTest, TabGoesFromTheSidebarOverTheStageToTheInspector)
     EXPECT_LT(canvas, target);
     EXPECT_LT(target, pause);
     EXPECT_LT(pause, remove);
+}
+
+TEST_F(ContentViewTest, TheGridGrowsWithLargeLetters)
+{
+    const QFont before = QApplication::font();
+    const AddStepButton small(StepKind::type);
+    EXPECT_EQ(small.sizeHint().height(), 46);
+    QFont large = before;
+    large.setPixelSize(26);
+    QApplication::setFont(large);
+    EXPECT_EQ(small.sizeHint().height() - 46,
+              QFontMetrics(Theme::font(TextSize::small)).height() - 14);
+    QApplication::setFont(before);
 }
 
 TEST_F(ContentViewTest, ANarrowWindowCondenses)

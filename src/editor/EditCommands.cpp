@@ -120,11 +120,13 @@ void EditCommands::follow()
 void EditCommands::undo()
 {
     m_editor.fieldEditing().undo();
+    m_editor.statusLine().setMessage({}); // may tell of what is undone now
 }
 
 void EditCommands::redo()
 {
     m_editor.fieldEditing().redo();
+    m_editor.statusLine().setMessage({});
 }
 
 bool EditCommands::callText(const char *slot)

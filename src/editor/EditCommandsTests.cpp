@@ -85,6 +85,18 @@ TEST_F(EditCommandsTest, UndoAndRedoCarryTheActionsName)
     EXPECT_EQ(redoItem().text(), "Redo");
 }
 
+TEST_F(EditCommandsTest, TheStatusDoesNotTellOfWhatIsUndone)
+{
+    openMenu({});
+    view->canvas().handleCanvasClick({10, 20});
+    ASSERT_EQ(view->statusLine().message(), "Added waypoint at (10, 20).");
+    undoItem().trigger();
+    EXPECT_EQ(view->statusLine().message(), "");
+    view->statusLine().setMessage("Something else.");
+    redoItem().trigger();
+    EXPECT_EQ(view->statusLine().message(), "");
+}
+
 TEST_F(EditCommandsTest, WhatIsBeingEditedCanBeUndoneByItsName)
 {
     openMenu({stepOf(StepKind::move)});

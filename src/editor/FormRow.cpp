@@ -16,6 +16,7 @@ constexpr int textGap = 6;
 FormRow::FormRow(const QString &label, QWidget *parent)
     : QWidget(parent)
     , m_whole(new QBoxLayout(QBoxLayout::LeftToRight, this))
+    , m_space(new QSpacerItem(0, 0))
     , m_row(new QHBoxLayout)
     , m_label(new QLabel(label, this))
 {
@@ -26,7 +27,9 @@ FormRow::FormRow(const QString &label, QWidget *parent)
     m_label->setProperty("look", QStringLiteral("note"));
     m_label->setMinimumHeight(Metrics::fieldHeight);
     setLabelColumn(Metrics::labelColumn);
+    m_label->setVisible(!label.isEmpty());
     m_whole->addWidget(m_label, 0, Qt::AlignTop);
+    m_whole->addItem(m_space);
     m_whole->addLayout(m_row, 1);
 }
 
@@ -39,7 +42,10 @@ void FormRow::setLabelColumn(int width)
     const bool fits = natural <= width - textGap;
     m_whole->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_whole->setSpacing(fits ? textGap : 0);
-    m_label->setFixedWidth(fits ? width - textGap : natural);
+    m_label->setFixedWidth(natural);
+    const int beside = m_label->text().isEmpty() ? width : width - textGap - natural;
+    m_space->changeSize(fits ? beside : 0, 0, QSizePolicy::Maximum);
+    m_whole->invalidate();
 }
 
 bool FormRow::event(QEvent *event)

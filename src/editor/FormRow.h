@@ -7,7 +7,8 @@
 namespace velvane {
 
 /// One line of a form: a label and what it names. Without a label the contents keep the column. A
-/// label that is too long for its column, as words of some languages are, stands above.
+/// label that is too long for its column, as words of some languages are, stands above; contents
+/// that are too wide for the form begin before their column.
 class FormRow : public QWidget {
     Q_OBJECT
 public:
@@ -27,6 +28,7 @@ protected:
 private:
     int m_column = 0;
     QBoxLayout *m_whole;
+    QSpacerItem *m_space; // what of the column the label leaves; gives way to wide contents
     QHBoxLayout *m_row;
     QLabel *m_label;
 };

@@ -1,6 +1,8 @@
 #include "editor/MoveGroup.h"
 
 #include "base/Graphemes.h"
+#include "base/OneDecimal.h"
+#include "base/PlainLine.h"
 
 #include <QCoreApplication>
 
@@ -38,7 +40,7 @@ QString actionText(const Step &step)
 {
     switch (step.kind) {
     case StepKind::wait:
-        return translated("Wait %1s").arg(step.pauseAfter.count(), 0, 'f', 1);
+        return translated("Wait %1s").arg(oneDecimal(step.pauseAfter.count()));
     case StepKind::shortcut: {
         const QString keys = step.shortcutDisplay();
         return keys.isEmpty() ? translated("Keys") : keys;
@@ -46,7 +48,8 @@ QString actionText(const Step &step)
     case StepKind::type:
         if (step.text.isEmpty())
             return translated("Type");
-        return QChar(0x201c) + Graphemes::prefix(step.text, shownCharacters) + QChar(0x201d);
+        return QChar(0x201c) + withVisibleBreaks(Graphemes::prefix(step.text, shownCharacters))
+               + QChar(0x201d);
     default:
         return label(step.kind);
     }

@@ -2,6 +2,8 @@
 
 #include "support/Print.h"
 
+#include <QLocale>
+
 #include <gtest/gtest.h>
 
 namespace velvane {
@@ -70,6 +72,22 @@ TEST(ActionText, AWaitShowsItsPause)
     wait.duration = 7s;
     wait.pauseAfter = 1.5s;
     EXPECT_EQ(actionText(wait), "Wait 1.5s");
+}
+
+TEST(ActionText, AWaitsLengthIsWrittenAsTheUsersLanguageDoes)
+{
+    Step wait = stepOf(StepKind::wait);
+    wait.pauseAfter = 1.5s;
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const QString german = actionText(wait);
+    QLocale::setDefault(before);
+    EXPECT_EQ(german, "Wait 1,5s");
+}
+
+TEST(ActionText, ATextOfSeveralLinesStaysOneLine)
+{
+    EXPECT_EQ(actionText(stepOf(StepKind::type, "one\ntwo")), "“one⏎two”");
 }
 
 TEST(ActionText, ATextOfTwentyCharactersShowsItsFirstFourteenInCurlyQuotes)

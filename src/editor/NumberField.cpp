@@ -15,6 +15,10 @@ constexpr double largeSecondsStep = 1;
 constexpr double coordinateStep = 1;
 constexpr double largeCoordinateStep = 10;
 constexpr int mostDecimals = 3;
+// What the field has room for where letters are large.
+const auto fiveDigits = QStringLiteral("00000");
+constexpr int aside = 18; // logical pixels for padding, border and caret
+constexpr int above = 6;
 
 /// The step that a key asks for, in steps of the small and the large kind.
 std::optional<double> stepOf(const QKeyEvent &key, double small, double large)
@@ -40,7 +44,10 @@ NumberField::NumberField(Kind kind, const QString &name, const QString &help, QW
     : QLineEdit(parent)
     , m_kind(kind)
 {
-    setFixedSize(Metrics::fieldWidth, Metrics::fieldHeight);
+    ensurePolished();
+    const QFontMetrics letters(font());
+    setFixedSize(std::max(Metrics::fieldWidth, letters.horizontalAdvance(fiveDigits) + aside),
+                 std::max(Metrics::fieldHeight, letters.height() + above));
     setAccessibleName(name);
     QLocale plain = locale();
     plain.setNumberOptions(QLocale::OmitGroupSeparator);
@@ -73,7 +80,11 @@ QString NumberField::format(double value) const
 std::optional<double> NumberField::value() const
 {
     bool isNumber = false;
-    const double value = locale().toDouble(text().trimmed(), &isNumber);
+    QString typed = text().trimmed();
+    double value = locale().toDouble(typed, &isNumber);
+    // The other decimal sign will do too: keyboards' number blocks have only one.
+    if (!isNumber)
+        value = QLocale::c().toDouble(typed.replace(u',', u'.'), &isNumber);
     return isNumber && std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
@@ -90,8 +101,12 @@ void NumberField::setValue(double value)
 void NumberField::showValue()
 {
     const QString text = format(m_value);
-    if (text != this->text())
-        setText(text);
+    if (text == this->text())
+        return;
+    setText(text);
+    // Of a number that is too long for the field, the end is what is not seen.
+    if (!hasFocus())
+        setCursorPosition(0);
 }
 
 void NumberField::readText()

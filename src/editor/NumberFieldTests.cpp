@@ -64,6 +64,33 @@ TEST(NumberField, DecimalsAreTheLocales)
     EXPECT_EQ(field.value(), 2.5);
 }
 
+TEST(NumberField, EitherDecimalSignWillDo)
+{
+    NumberField field(NumberField::Kind::seconds, {}, {});
+    field.setLocale(QLocale(QLocale::German, QLocale::Germany));
+    field.setText("2.5");
+    EXPECT_EQ(field.value(), 2.5);
+    field.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    field.setText("2,5");
+    EXPECT_EQ(field.value(), 2.5);
+    field.setText("1,234.5");
+    EXPECT_EQ(field.value(), 1234.5);
+    field.setText("2,5,1");
+    EXPECT_EQ(field.value(), std::nullopt);
+}
+
+TEST(NumberField, FiveDigitsAreSeenInLargeLetters)
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPixelSize(26);
+    QApplication::setFont(large);
+    const NumberField field(NumberField::Kind::coordinate, {}, {});
+    QApplication::setFont(before);
+    EXPECT_GT(field.width(), QFontMetrics(large).horizontalAdvance("10000"));
+    EXPECT_GE(field.height(), QFontMetrics(large).height());
+}
+
 TEST(NumberField, SecondsShowOneDecimalAndMoreOnlyWhereTheValueHasThem)
 {
     NumberField field(NumberField::Kind::seconds, {}, {});
@@ -79,6 +106,13 @@ TEST(NumberField, CoordinatesShowWholePoints)
     field.setLocale(QLocale::c());
     EXPECT_EQ(field.format(470), "470");
     EXPECT_EQ(field.format(12.5), "12.5");
+}
+
+TEST(NumberField, ALongNumberIsSeenFromItsBeginning)
+{
+    NumberField field(NumberField::Kind::seconds, {}, {});
+    field.setValue(1234567.8);
+    EXPECT_EQ(field.cursorPosition(), 0);
 }
 
 TEST(NumberField, TypingGivesTheValueAndKeepsTheTextAsTyped)

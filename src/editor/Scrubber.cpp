@@ -1,5 +1,6 @@
 #include "editor/Scrubber.h"
 
+#include "base/PlainLine.h"
 #include "editor/TabularText.h"
 #include "editor/Theme.h"
 #include "model/StepList.h"
@@ -85,7 +86,7 @@ void Scrubber::showCurrent()
     const Step &step = timeline.steps()[*m_current].step;
     if (const auto number = StepList::displayNumber(m_project.steps(), step.id))
         m_number = QString::number(*number);
-    m_summary = step.summary();
+    m_summary = withVisibleBreaks(step.summary());
     setAccessibleDescription(QStringList{m_number, m_summary}.join(QLatin1Char(' ')).trimmed());
 }
 

@@ -1,5 +1,6 @@
 #include "editor/SeveralStepsForm.h"
 
+#include "base/OneDecimal.h"
 #include "editor/Controls.h"
 #include "editor/FormRow.h"
 #include "editor/Metrics.h"
@@ -121,7 +122,7 @@ void SeveralStepsForm::showSteps(const QList<qsizetype> &places)
         m_kinds[i].row->setVisible(numbers[i] > 0);
         m_kinds[i].number->setText(QString::number(numbers[i]));
     }
-    m_length->setText(tr("%1s").arg(together.count(), 0, 'f', 1));
+    m_length->setText(tr("%1s").arg(oneDecimal(together.count())));
 }
 
 void SeveralStepsForm::showPause(const QList<qsizetype> &places)

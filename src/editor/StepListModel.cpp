@@ -1,5 +1,6 @@
 #include "editor/StepListModel.h"
 
+#include "base/OneDecimal.h"
 #include "model/StepList.h"
 #include "timeline/Timeline.h"
 
@@ -79,7 +80,7 @@ QList<Run> runsOutside(const QList<StepRow> &rows, const QSet<QUuid> &ids)
 
 QString lengthText(Seconds length)
 {
-    return StepListModel::tr("%1s").arg(length.count(), 0, 'f', 1);
+    return StepListModel::tr("%1s").arg(oneDecimal(length.count()));
 }
 
 QString spoken(const StepRow &row)
@@ -122,6 +123,23 @@ QItemSelection StepListModel::rowsOf(const QSet<QUuid> &ids) const
         first = -1;
     }
     return selection;
+}
+
+std::optional<int> StepListModel::rowPast(int row, bool isUp) const
+{
+    const int count = rowCount();
+    const bool isSection = this->row(row).step.kind == StepKind::section;
+    const auto nextUnit = [&](int from, int by) {
+        do
+            from += by;
+        while (isSection && from > 0 && from < count
+               && this->row(from).step.kind != StepKind::section);
+        return from;
+    };
+    if (isUp)
+        return row > 0 ? std::optional(nextUnit(row, -1)) : std::nullopt;
+    const int neighbour = nextUnit(row, 1);
+    return neighbour < count ? std::optional(nextUnit(neighbour, 1)) : std::nullopt;
 }
 
 int StepListModel::rowCount(const QModelIndex &parent) const

@@ -7,6 +7,8 @@
 #include <QItemSelection>
 #include <QSet>
 
+#include <optional>
+
 namespace velvane {
 
 /// One row of the step list.
@@ -50,6 +52,10 @@ public:
     /// The rows of these steps, in as few stretches as there are: selection models take time in the
     /// square of their number.
     QItemSelection rowsOf(const QSet<QUuid> &ids) const;
+
+    /// The row before which a row comes when it is moved one place up or down; nothing at the ends.
+    /// A section goes past the whole of its neighbour.
+    std::optional<int> rowPast(int row, bool isUp) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;

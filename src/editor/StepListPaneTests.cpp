@@ -57,6 +57,35 @@ TEST_F(StepListPaneTest, CtrlAndShiftSelectSeveralRows)
     EXPECT_EQ(view->selection().selectedIDs(), (QSet<QUuid>{step(2).id, step(3).id, step(5).id}));
 }
 
+TEST_F(StepListPaneTest, AltAndArrowsMoveTheCurrentRow)
+{
+    open({stepOf(StepKind::click), stepOf(StepKind::hold), stepOf(StepKind::release)});
+    Widgets::click(port(), middle(1));
+    const QUuid moved = step(1).id;
+    Widgets::press(list(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(summaries(), (QStringList{"Hold mouse down", "Click", "Release mouse"}));
+    Widgets::press(list(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(step(0).id, moved) << "there is no place above the first";
+    Widgets::press(list(), Qt::Key_Down, Qt::AltModifier);
+    Widgets::press(list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(summaries(), (QStringList{"Click", "Release mouse", "Hold mouse down"}));
+    Widgets::press(list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(step(2).id, moved) << "there is no place below the last";
+    EXPECT_EQ(project.selection(), moved);
+}
+
+TEST_F(StepListPaneTest, AltAndArrowsMoveASectionPastItsNeighbour)
+{
+    openSections();
+    const QStringList before = summaries();
+    Widgets::click(port(), middle(4));
+    Widgets::press(list(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(summaries(),
+              (QStringList{"Click", "T", "Right-click", "S", "Hold mouse down", "Release mouse"}));
+    Widgets::press(list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(summaries(), before);
+}
+
 TEST_F(StepListPaneTest, ASelectionFromElsewhereShowsInTheList)
 {
     openSections();

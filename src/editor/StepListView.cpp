@@ -266,6 +266,19 @@ bool StepListView::foldByKey(const QKeyEvent &event)
     return flips;
 }
 
+bool StepListView::moveByKey(const QKeyEvent &event)
+{
+    const bool isUp = event.key() == Qt::Key_Up;
+    const bool isMove = isUp || event.key() == Qt::Key_Down;
+    if (!isMove || (event.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier)
+        return false;
+    if (const QModelIndex row = currentIndex(); row.isValid())
+        if (const auto before = m_model.rowPast(row.row(), isUp))
+            Q_EMIT moveRequested(row.row(), *before);
+    scrollTo(currentIndex());
+    return true;
+}
+
 void StepListView::keyPressEvent(QKeyEvent *event)
 {
     // Space and Home belong to the playback.
@@ -278,7 +291,7 @@ void StepListView::keyPressEvent(QKeyEvent *event)
         Q_EMIT deleteSelectedRequested();
     else if (event->matches(QKeySequence::SelectAll))
         m_selection.selectAll();
-    else if (!foldByKey(*event))
+    else if (!foldByKey(*event) && !moveByKey(*event))
         QListView::keyPressEvent(event);
 }
 

@@ -42,7 +42,7 @@ Q_SIGNALS:
     void deleteRequested(const QUuid &step);
     void toggleRequested(const QUuid &section);
     void deleteSelectedRequested();
-    /// A row was dropped before another, or past the last one.
+    /// A row was dropped before another, or past the last one, or is moved so by keys.
     void moveRequested(int from, int to);
 
 protected:
@@ -62,6 +62,7 @@ private:
     void hover(QPoint position);
     void activate(const QModelIndex &index, Part part);
     bool foldByKey(const QKeyEvent &event);
+    bool moveByKey(const QKeyEvent &event);
     bool isRevealed(const QModelIndex &index) const;
     void showSelection();
 

@@ -1,5 +1,6 @@
 #include "editor/StepRowDelegate.h"
 
+#include "base/PlainLine.h"
 #include "editor/Icons.h"
 #include "editor/Metrics.h"
 #include "editor/StepListView.h"
@@ -125,7 +126,7 @@ void StepRowDelegate::paintTexts(QPainter &painter, const QModelIndex &index,
     painter.setFont(Theme::font(TextSize::body, isSection ? QFont::DemiBold : QFont::Normal));
     painter.setPen(colors.text);
     // Line breaks of typed text stay visible as such, in one line.
-    const QString line = row.step.summary().replace(QLatin1Char('\n'), QStringLiteral("⏎"));
+    const QString line = withVisibleBreaks(row.step.summary());
     const QString text =
         painter.fontMetrics().elidedText(line, Qt::ElideRight, layout.summary.width());
     painter.drawText(layout.summary, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);

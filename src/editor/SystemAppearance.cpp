@@ -16,6 +16,10 @@ const auto interface = QStringLiteral("org.freedesktop.portal.Settings");
 const auto appearance = QStringLiteral("org.freedesktop.appearance");
 const auto colorScheme = QStringLiteral("color-scheme");
 const auto accentColor = QStringLiteral("accent-color");
+const auto reducedMotion = QStringLiteral("reduced-motion");
+// What desktops have that do not know the setting for all of them yet.
+const auto gnome = QStringLiteral("org.gnome.desktop.interface");
+const auto enableAnimations = QStringLiteral("enable-animations");
 
 std::optional<bool> darkFrom(const QVariant &value)
 {
@@ -66,22 +70,24 @@ SystemAppearance::SystemAppearance(QObject *parent) : QObject(parent)
         return;
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QDBusMessage)));
-    ask(colorScheme);
-    ask(accentColor);
+    ask(appearance, colorScheme);
+    ask(appearance, accentColor);
+    ask(appearance, reducedMotion);
+    ask(gnome, enableAnimations);
 }
 
-void SystemAppearance::ask(const QString &key)
+void SystemAppearance::ask(const QString &group, const QString &key)
 {
     QDBusMessage call =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
-    call << appearance << key;
+    call << group << key;
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, key](QDBusPendingCallWatcher *finished) {
+            [this, group, key](QDBusPendingCallWatcher *finished) {
                 const QDBusPendingReply<QDBusVariant> reply = *finished;
                 if (!reply.isError())
-                    take(appearance, key, unwrapped(reply.value().variant()));
+                    take(group, key, unwrapped(reply.value().variant()));
                 finished->deleteLater();
             });
 }
@@ -96,15 +102,18 @@ void SystemAppearance::settingChanged(const QDBusMessage &message)
 
 void SystemAppearance::take(const QString &group, const QString &key, const QVariant &value)
 {
-    if (group != appearance)
-        return;
     const auto darkBefore = m_prefersDark;
     const QColor accentBefore = m_accent;
-    if (key == colorScheme)
+    const bool stillBefore = wantsLessMotion();
+    if (group == appearance && key == colorScheme)
         m_prefersDark = darkFrom(value);
-    else if (key == accentColor)
+    else if (group == appearance && key == accentColor)
         m_accent = colorFrom(value);
-    if (m_prefersDark != darkBefore || m_accent != accentBefore)
+    else if (group == appearance && key == reducedMotion)
+        m_reducesMotion = value.toUInt() == 1;
+    else if (group == gnome && key == enableAnimations)
+        m_animates = value.toBool();
+    if (m_prefersDark != darkBefore || m_accent != accentBefore || wantsLessMotion() != stillBefore)
         Q_EMIT changed();
 }
 

@@ -19,6 +19,8 @@ public:
     std::optional<bool> prefersDark() const { return m_prefersDark; }
     /// The highlight colour; invalid when the desktop names none.
     QColor accent() const { return m_accent; }
+    /// Shall nothing move that need not?
+    bool wantsLessMotion() const { return m_reducesMotion || !m_animates; }
 
     /// Takes one setting as the portal sends it; settings that say nothing here are ignored.
     void take(const QString &group, const QString &key, const QVariant &value);
@@ -30,10 +32,12 @@ private Q_SLOTS:
     void settingChanged(const QDBusMessage &message);
 
 private:
-    void ask(const QString &key);
+    void ask(const QString &group, const QString &key);
 
     std::optional<bool> m_prefersDark;
     QColor m_accent;
+    bool m_reducesMotion = false;
+    bool m_animates = true;
 };
 
 } // namespace velvane

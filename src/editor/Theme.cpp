@@ -91,13 +91,15 @@ void Theme::install(QApplication &application)
     m_application = &application;
     m_platformIsDark = isDark(QApplication::palette());
     chooseFontWithoutDesktop();
-    QApplication::setStyle(new WindowStyle);
+    m_style = new WindowStyle;
+    QApplication::setStyle(m_style);
     m_system = std::make_unique<SystemAppearance>();
     connect(m_system.get(), &SystemAppearance::changed, this, &Theme::update);
     // The application's connections to the bus do not outlive it.
     connect(&application, &QObject::destroyed, this, [this] {
         m_system.reset();
         m_application = nullptr;
+        m_style = nullptr;
     });
     update();
     put();
@@ -111,6 +113,8 @@ void Theme::setOverride(std::optional<Scheme> scheme)
 
 void Theme::update()
 {
+    if (m_style)
+        m_style->setStill(m_system && m_system->wantsLessMotion());
     const bool dark = m_override                            ? *m_override == Scheme::dark
                       : m_system && m_system->prefersDark() ? *m_system->prefersDark()
                                                             : m_platformIsDark;

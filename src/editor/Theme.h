@@ -10,6 +10,7 @@ class QApplication;
 namespace velvane {
 
 class SystemAppearance;
+class WindowStyle;
 
 /// Sizes of text: the system font's own, and steps below and above it.
 enum class TextSize { body, secondary, small, title };
@@ -50,6 +51,7 @@ private:
     std::optional<Scheme> m_override;
     bool m_platformIsDark = true;
     QApplication *m_application = nullptr;
+    WindowStyle *m_style = nullptr; // the application's
     ThemeColors m_colors;
 };
 

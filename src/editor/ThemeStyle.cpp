@@ -7,8 +7,9 @@ namespace velvane::ThemeStyle {
 namespace {
 
 // Words in @ are colours by role. A focused control's border grows inwards: its padding shrinks
-// by as much, so nothing shifts.
+// by as much, so nothing shifts. The style's own frame of the focus would be a second one inside.
 const auto controls = QStringLiteral(R"(
+QPushButton, QCheckBox, QComboBox, QToolButton { outline: none; }
 QPushButton {
     background: @button; border: 1px solid @buttonBorder; border-radius: 6px;
     padding: 4px 10px; min-height: 18px; color: @text;
@@ -124,7 +125,13 @@ QHeaderView::down-arrow, QHeaderView::up-arrow { image: none; }
 QFileDialog QToolButton { border: 1px solid transparent; border-radius: 6px; padding: 4px; }
 QFileDialog QToolButton:hover, QFileDialog QToolButton:checked { background: @buttonHover; }
 QFileDialog QToolButton:focus { border: 2px solid @accent; padding: 3px; }
-QFileDialog QAbstractItemView { border: 1px solid @hairline; border-radius: 6px; }
+QDialog QAbstractItemView {
+    border: 1px solid @hairline; border-radius: 6px; padding: 1px; outline: none;
+}
+QDialog QAbstractItemView:focus { border: 2px solid @accent; padding: 0px; }
+QDialog QComboBox QAbstractItemView, QDialog QComboBox QAbstractItemView:focus {
+    border: 1px solid @menuBorder; padding: 4px;
+}
 QSplitter::handle { background: @hairline; }
 QScrollBar:vertical { width: 10px; background: transparent; margin: 0; }
 QScrollBar:horizontal { height: 10px; background: transparent; margin: 0; }

@@ -2,10 +2,14 @@
 #include "editor/SystemAppearance.h"
 #include "editor/Theme.h"
 #include "editor/ThemeStyle.h"
+#include "editor/WindowStyle.h"
 #include "support/Print.h"
 
+#include <QDialog>
 #include <QDirIterator>
+#include <QListWidget>
 #include <QPainter>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +82,41 @@ TEST(ThemeStyle, DisabledTextHasItsOwnColour)
               ThemeColors::light().inactiveSelection);
 }
 
+TEST(ThemeStyle, AFocusedButtonHasNoSecondFrameInside)
+{
+    const ThemeColors colors = ThemeColors::light();
+    QPushButton button;
+    button.setStyleSheet(ThemeStyle::sheet(colors));
+    button.resize(120, 28);
+    button.show();
+    button.activateWindow();
+    button.setFocus(Qt::TabFocusReason);
+    button.setAttribute(Qt::WA_KeyboardFocusChange); // as the Tab key does
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(button.hasFocus());
+    // Within the border and its round corners.
+    const QPixmap inside = button.grab(button.rect().adjusted(6, 3, -6, -3));
+    EXPECT_EQ(painted(inside, colors.button), inside.width() * inside.height());
+}
+
+TEST(ThemeStyle, AListInADialogShowsItsFocus)
+{
+    const ThemeColors colors = ThemeColors::dark();
+    QDialog dialog;
+    dialog.setStyleSheet(ThemeStyle::sheet(colors));
+    QListWidget list(&dialog);
+    dialog.show();
+    dialog.activateWindow();
+    const auto edge = [&] {
+        QCoreApplication::processEvents();
+        return list.grab().toImage().pixelColor(list.width() / 2, 0);
+    };
+    list.setFocus();
+    EXPECT_EQ(edge(), colors.accent);
+    list.clearFocus();
+    EXPECT_EQ(edge(), colors.hairline);
+}
+
 TEST(SystemAppearance, TheSchemeIsTakenFromThePortal)
 {
     SystemAppearance system;
@@ -99,6 +138,34 @@ TEST(SystemAppearance, OtherSettingsAreIgnored)
     system.take("org.gnome.desktop.interface", "color-scheme", 1U);
     system.take(appearance, "contrast", 1U);
     EXPECT_EQ(system.prefersDark(), std::nullopt);
+}
+
+TEST(SystemAppearance, LessMotionIsWantedByEitherSetting)
+{
+    SystemAppearance system;
+    int changes = 0;
+    QObject::connect(&system, &SystemAppearance::changed, [&] { ++changes; });
+    EXPECT_FALSE(system.wantsLessMotion());
+    system.take(appearance, "reduced-motion", 1U);
+    EXPECT_TRUE(system.wantsLessMotion());
+    system.take(appearance, "reduced-motion", 0U);
+    EXPECT_FALSE(system.wantsLessMotion());
+    system.take("org.gnome.desktop.interface", "enable-animations", false);
+    EXPECT_TRUE(system.wantsLessMotion());
+    system.take("org.gnome.desktop.interface", "enable-animations", true);
+    EXPECT_FALSE(system.wantsLessMotion());
+    EXPECT_EQ(changes, 4);
+}
+
+TEST(WindowStyle, AStillOneTakesNoTimeForAnimations)
+{
+    WindowStyle style;
+    const int usual = style.styleHint(QStyle::SH_Widget_Animation_Duration, {}, {}, {});
+    EXPECT_GT(usual, 0);
+    style.setStill(true);
+    EXPECT_EQ(style.styleHint(QStyle::SH_Widget_Animation_Duration, {}, {}, {}), 0);
+    style.setStill(false);
+    EXPECT_EQ(style.styleHint(QStyle::SH_Widget_Animation_Duration, {}, {}, {}), usual);
 }
 
 TEST(SystemAppearance, AnAccentThatIsNoColourIsNone)

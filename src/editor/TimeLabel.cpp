@@ -35,10 +35,7 @@ QSize TimeLabel::sizeHint() const
 
 double TimeLabel::ownWidth() const
 {
-    const double total = std::max(m_slider.total().count(), 10.0);
-    const QString number = QString::number(total, 'f', 1);
-    const QString text = QStringLiteral("%1 / %1s").arg(number);
-    return TabularText::width(QFontMetricsF(Theme::font()), text);
+    return TabularText::width(QFontMetricsF(Theme::font()), m_slider.widestTimeText());
 }
 
 void TimeLabel::textChanged()

@@ -1,10 +1,13 @@
 #include "editor/TimeSlider.h"
 
+#include "base/OneDecimal.h"
 #include "editor/Theme.h"
 #include "editor/TimeSliderAccessible.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace velvane {
 
@@ -44,10 +47,16 @@ void TimeSlider::setTotal(Seconds total)
     Q_EMIT totalChanged();
 }
 
-QString TimeSlider::timeText() const
+QString TimeSlider::widestTimeText() const
 {
-    return tr("%1 / %2s")
-        .arg(QString::number(m_time.count(), 'f', 1), QString::number(m_total.count(), 'f', 1));
+    // Short demos have room for two digits: the label keeps its width as steps are added.
+    const Seconds end = std::max(m_total, Seconds(10));
+    return textOf(end, end);
+}
+
+QString TimeSlider::textOf(Seconds time, Seconds total)
+{
+    return tr("%1 / %2s").arg(oneDecimal(time.count()), oneDecimal(total.count()));
 }
 
 void TimeSlider::announce()

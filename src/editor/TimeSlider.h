@@ -27,7 +27,9 @@ public:
     void setStep(Seconds step) { m_step = step; }
 
     /// "3.2 / 13.0s"
-    QString timeText() const;
+    QString timeText() const { return textOf(m_time, m_total); }
+    /// A text that no moment's is wider than, if digits are all of one width.
+    QString widestTimeText() const;
 
     QSize sizeHint() const override { return {240, 24}; }
     QSize minimumSizeHint() const override { return {80, 24}; }
@@ -56,6 +58,7 @@ protected:
     double xOf(Seconds time) const;
 
 private:
+    static QString textOf(Seconds time, Seconds total);
     void request(Seconds time);
     void paintKnob(QPainter &painter) const;
     void announce();

@@ -1,3 +1,5 @@
+#include "editor/TabularText.h"
+#include "editor/Theme.h"
 #include "editor/TimeLabel.h"
 #include "editor/TimeSlider.h"
 #include "editor/VideoScrubBar.h"
@@ -5,7 +7,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLocale>
 #include <QMouseEvent>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -103,6 +107,34 @@ TEST_F(TimeSliderTest, ItsTextHasTenthsOfBothTimes)
 {
     slider.setTime(3.24s);
     EXPECT_EQ(slider.timeText(), "3.2 / 10.0s");
+}
+
+TEST_F(TimeSliderTest, ItsTextIsWrittenAsTheUsersLanguageDoes)
+{
+    slider.setTime(3.24s);
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    const QString french = slider.timeText();
+    QLocale::setDefault(before);
+    EXPECT_EQ(french, "3,2 / 10,0s");
+}
+
+TEST_F(TimeSliderTest, ItsLabelHasRoomForTheTextInAnyLanguage)
+{
+    struct : QTranslator {
+        bool isEmpty() const override { return false; }
+        QString translate(const char *, const char *english, const char *, int) const override
+        {
+            return english == QByteArray("%1 / %2s") ? QString("%1 / %2 seconds") : QString();
+        }
+    } language;
+    QCoreApplication::installTranslator(&language);
+    const TimeLabel label(slider, TimeLabel::Tone::text, nullptr);
+    slider.setTime(slider.total());
+    EXPECT_EQ(label.accessibleName(), "10.0 / 10.0 seconds");
+    EXPECT_GE(label.sizeHint().width(),
+              TabularText::width(QFontMetricsF(Theme::font()), label.accessibleName()));
+    QCoreApplication::removeTranslator(&language);
 }
 
 TEST_F(TimeSliderTest, AScreenReaderReadsAndSetsItsValue)

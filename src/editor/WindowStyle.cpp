@@ -29,6 +29,8 @@ int WindowStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWi
 {
     if (hint == SH_UnderlineShortcut)
         return underlines();
+    if (hint == SH_Widget_Animation_Duration && m_isStill)
+        return 0;
     if (hint == SH_Menu_Mask && option) {
         if (auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(data))
             mask->region = rounded(option->rect);

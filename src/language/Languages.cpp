@@ -103,13 +103,14 @@ void install()
         QLocale::setDefault(QLocale(now.code));
     if (now.code == english)
         return;
+    QCoreApplication::installTranslator(
+        new Catalogue(folder + QStringLiteral("/velvane_") + now.code, qApp));
+    // The last one is asked first: Qt's own words mean other things than ours of the same English,
+    // the type of a file for one. It knows only its own classes.
     auto *qt = new QTranslator(qApp);
     if (qt->load(QStringLiteral("qtbase_") + now.code,
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(qt);
-    // The last one is asked first.
-    QCoreApplication::installTranslator(
-        new Catalogue(folder + QStringLiteral("/velvane_") + now.code, qApp));
 }
 
 QString text(const char *english)

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLocale>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -83,6 +85,19 @@ TEST(Languages, ATextIsFoundWhateverClassShowsIt)
     EXPECT_EQ(QCoreApplication::translate("Anything", "Cancel"), "Abbrechen");
     QCoreApplication::removeTranslator(&german);
     EXPECT_EQ(QCoreApplication::translate("Anything", "Cancel"), "Cancel");
+}
+
+TEST(Languages, WordsOfQtsOwnPanelsAreQts)
+{
+    const QLocale before;
+    Languages::choose("de");
+    Languages::install();
+    EXPECT_EQ(QCoreApplication::translate("QFileSystemModel", "Type"), "Typ");
+    EXPECT_EQ(QCoreApplication::translate("StepKind", "Type"), "Tippen");
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    EXPECT_EQ(QCoreApplication::translate("StepKind", "Type"), "Type");
+    Languages::choose("en");
+    QLocale::setDefault(before);
 }
 
 TEST(Languages, ACatalogueThatIsNotThereHasNoTexts)

@@ -1,6 +1,7 @@
 #include "model/Step.h"
 
 #include "base/Geometry.h"
+#include "base/OneDecimal.h"
 #include "model/Shortcut.h"
 
 #include <QCoreApplication>
@@ -26,13 +27,6 @@ struct Words {
     QLocale locale;
 };
 
-// One decimal.
-QString decimal(double number, QLocale locale)
-{
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(number, 'f', 1);
-}
-
 QString summaryOf(const Step &step, const Words &words)
 {
     const auto translated = words.translated;
@@ -56,7 +50,7 @@ QString summaryOf(const Step &step, const Words &words)
         return keys.isEmpty() ? translated("Shortcut") : translated("Press %1").arg(keys);
     }
     case StepKind::wait:
-        return translated("Wait %1s").arg(decimal(step.pauseAfter.count(), words.locale));
+        return translated("Wait %1s").arg(oneDecimal(step.pauseAfter.count(), words.locale));
     case StepKind::switchApp:
         return translated("Switch to %1").arg(step.text.isEmpty() ? translated("app") : step.text);
     case StepKind::section:
