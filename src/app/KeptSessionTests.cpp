@@ -243,6 +243,19 @@ TEST_F(KeptSessionTest, AFolderThatCannotBeMadeIsAReason)
     EXPECT_TRUE(session.keep(demo("one"), 1));
 }
 
+TEST_F(KeptSessionTest, AFolderThatOthersRemoveIsMadeAgain)
+{
+    KeptSession session(root());
+    const KeptDemo one = demo("one");
+    EXPECT_FALSE(session.keep(one, 1));
+    EXPECT_TRUE(session.holds(one.id));
+    ASSERT_TRUE(QDir(root()).removeRecursively());
+    EXPECT_FALSE(session.holds(one.id));
+    EXPECT_FALSE(session.keep(one, 2));
+    EXPECT_EQ(titles(session), QStringList{"one"});
+    EXPECT_TRUE(left().empty()) << "it is still ours";
+}
+
 TEST_F(KeptSessionTest, NobodyElseMayReadIt)
 {
     crashWith({demo("one")});
