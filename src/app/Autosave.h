@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/KeptSession.h"
 #include "model/DocState.h"
+#include "model/KeptSession.h"
 
 #include <QCoroTask>
 #include <QObject>

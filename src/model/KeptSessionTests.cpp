@@ -1,4 +1,4 @@
-#include "app/KeptSession.h"
+#include "model/KeptSession.h"
 
 #include "model/DemoDocument.h"
 #include "model/DocumentError.h"

@@ -1,4 +1,4 @@
-#include "app/KeptSession.h"
+#include "model/KeptSession.h"
 
 #include "base/WholeFile.h"
 #include "model/DocumentError.h"
