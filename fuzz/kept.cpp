@@ -1,6 +1,6 @@
 #include "BinaryMutator.h"
 #include "Check.h"
-#include "app/KeptDemo.h"
+#include "model/KeptDemo.h"
 
 namespace {
 

@@ -528,12 +528,12 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Save As…</source>
-        <extracomment>EditorWindow, FileCommands</extracomment>
+        <extracomment>EditorWindow, FileCommands, FilePanel</extracomment>
         <translation>Speichern unter…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>EditorWindow, ExportProgressView</extracomment>
+        <extracomment>EditorWindow, ExportProgressView, FilePanel</extracomment>
         <translation>Abbrechen</translation>
     </message>
     <message>
@@ -548,7 +548,7 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
     </message>
     <message>
         <source>Replace</source>
-        <extracomment>EditorWindow</extracomment>
+        <extracomment>EditorWindow, FilePanel</extracomment>
         <translation>Ersetzen</translation>
     </message>
     <message>
@@ -2065,6 +2065,16 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Velvane demos (*.velvane)</source>
         <extracomment>FilePanel</extracomment>
         <translation>Velvane-Demos (*.velvane)</translation>
+    </message>
+    <message>
+        <source>“%1” already exists.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>„%1“ gibt es bereits.</translation>
+    </message>
+    <message>
+        <source>Replacing it loses what it holds.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>Beim Ersetzen geht verloren, was darin steht.</translation>
     </message>
     <message>
         <source>Open Demo</source>

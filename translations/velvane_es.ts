@@ -528,12 +528,12 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <extracomment>EditorWindow, FileCommands</extracomment>
+        <extracomment>EditorWindow, FileCommands, FilePanel</extracomment>
         <translation>Guardar como…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>EditorWindow, ExportProgressView</extracomment>
+        <extracomment>EditorWindow, ExportProgressView, FilePanel</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -548,7 +548,7 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <extracomment>EditorWindow</extracomment>
+        <extracomment>EditorWindow, FilePanel</extracomment>
         <translation>Reemplazar</translation>
     </message>
     <message>
@@ -2065,6 +2065,16 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Velvane demos (*.velvane)</source>
         <extracomment>FilePanel</extracomment>
         <translation>Demos de Velvane (*.velvane)</translation>
+    </message>
+    <message>
+        <source>“%1” already exists.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>«%1» ya existe.</translation>
+    </message>
+    <message>
+        <source>Replacing it loses what it holds.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>Al reemplazarlo se pierde lo que contiene.</translation>
     </message>
     <message>
         <source>Open Demo</source>

@@ -528,12 +528,12 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Save As…</source>
-        <extracomment>EditorWindow, FileCommands</extracomment>
+        <extracomment>EditorWindow, FileCommands, FilePanel</extracomment>
         <translation>Enregistrer sous…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>EditorWindow, ExportProgressView</extracomment>
+        <extracomment>EditorWindow, ExportProgressView, FilePanel</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
@@ -548,7 +548,7 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
     </message>
     <message>
         <source>Replace</source>
-        <extracomment>EditorWindow</extracomment>
+        <extracomment>EditorWindow, FilePanel</extracomment>
         <translation>Remplacer</translation>
     </message>
     <message>
@@ -2065,6 +2065,16 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Velvane demos (*.velvane)</source>
         <extracomment>FilePanel</extracomment>
         <translation>Démos Velvane (*.velvane)</translation>
+    </message>
+    <message>
+        <source>“%1” already exists.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>« %1 » existe déjà.</translation>
+    </message>
+    <message>
+        <source>Replacing it loses what it holds.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>Le remplacer fait perdre ce qu’il contient.</translation>
     </message>
     <message>
         <source>Open Demo</source>

@@ -528,12 +528,12 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Save As…</source>
-        <extracomment>EditorWindow, FileCommands</extracomment>
+        <extracomment>EditorWindow, FileCommands, FilePanel</extracomment>
         <translation>名前を付けて保存…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>EditorWindow, ExportProgressView</extracomment>
+        <extracomment>EditorWindow, ExportProgressView, FilePanel</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
@@ -548,7 +548,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Replace</source>
-        <extracomment>EditorWindow</extracomment>
+        <extracomment>EditorWindow, FilePanel</extracomment>
         <translation>置き換える</translation>
     </message>
     <message>
@@ -2065,6 +2065,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Velvane demos (*.velvane)</source>
         <extracomment>FilePanel</extracomment>
         <translation>Velvaneデモ (*.velvane)</translation>
+    </message>
+    <message>
+        <source>“%1” already exists.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>「%1」はすでにあります。</translation>
+    </message>
+    <message>
+        <source>Replacing it loses what it holds.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>置き換えると、その内容は失われます。</translation>
     </message>
     <message>
         <source>Open Demo</source>

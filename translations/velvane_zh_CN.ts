@@ -527,12 +527,12 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Save As…</source>
-        <extracomment>EditorWindow, FileCommands</extracomment>
+        <extracomment>EditorWindow, FileCommands, FilePanel</extracomment>
         <translation>另存为…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>EditorWindow, ExportProgressView</extracomment>
+        <extracomment>EditorWindow, ExportProgressView, FilePanel</extracomment>
         <translation>取消</translation>
     </message>
     <message>
@@ -547,7 +547,7 @@ Results go to standard output, messages and progress to standard error.
     </message>
     <message>
         <source>Replace</source>
-        <extracomment>EditorWindow</extracomment>
+        <extracomment>EditorWindow, FilePanel</extracomment>
         <translation>替换</translation>
     </message>
     <message>
@@ -2064,6 +2064,16 @@ Results go to standard output, messages and progress to standard error.
         <source>Velvane demos (*.velvane)</source>
         <extracomment>FilePanel</extracomment>
         <translation>Velvane 演示 (*.velvane)</translation>
+    </message>
+    <message>
+        <source>“%1” already exists.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>“%1”已存在。</translation>
+    </message>
+    <message>
+        <source>Replacing it loses what it holds.</source>
+        <extracomment>FilePanel</extracomment>
+        <translation>替换后，其中的内容将丢失。</translation>
     </message>
     <message>
         <source>Open Demo</source>

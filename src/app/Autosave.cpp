@@ -50,7 +50,7 @@ void Autosave::onDocumentChanged(EditorWindow *window)
 {
     if (!m_documents.isQuitting())
         goOn();
-    if (!m_hasEnded && !window->isModified())
+    if (!m_hasEnded && !window->unsaved())
         forget(m_kept[window]);
 }
 
@@ -62,10 +62,9 @@ void Autosave::forget(Kept &kept)
     kept = {};
 }
 
-bool Autosave::isKept(const EditorWindow &window) const
+bool Autosave::isKept(const Kept &kept, const DocState &state) const
 {
-    const auto &state = m_kept.at(const_cast<EditorWindow *>(&window)).state;
-    return state && *state == window.content().project().docState();
+    return kept.state && *kept.state == state && m_session->holds(kept.id);
 }
 
 KeptDemo Autosave::recordOf(const EditorWindow &window, const Kept &kept)
@@ -85,24 +84,25 @@ void Autosave::goOn()
         return;
     m_session->setEnded(false);
     for (auto &[window, kept] : m_kept)
-        if (!window->isModified())
+        if (!window->unsaved())
             forget(kept);
 }
 
 void Autosave::tick()
 {
-    goOn();
+    // Windows on their way out may still wait for the end of an export.
+    if (!m_documents.isQuitting())
+        goOn();
     for (const auto &[window, kept] : m_kept)
-        if (window->isModified() && !isKept(*window))
-            keep(window);
+        if (const auto state = window->unsaved(); state && !isKept(kept, *state))
+            keep(window, *state);
 }
 
-QCoro::Task<> Autosave::keep(EditorWindow *window)
+QCoro::Task<> Autosave::keep(EditorWindow *window, DocState state)
 {
     const QPointer<Autosave> alive(this);
     const QPointer<EditorWindow> open(window);
     Kept &kept = m_kept[window];
-    const DocState state = window->content().project().docState();
     kept.state = state;
     const QUuid id = kept.id;
     const int turn = ++kept.turn;
@@ -134,19 +134,18 @@ bool Autosave::keepAll()
     for (EditorWindow *window : m_documents.windows()) {
         Kept &kept = m_kept[window];
         window->content().fieldEditing().commitOpenGesture();
-        const bool isModified = window->isModified();
+        const std::optional<DocState> unsaved = window->unsaved();
         // A new demo that nobody has touched is no loss.
-        if (!isModified && window->path().isEmpty())
+        if (!unsaved && window->path().isEmpty())
             continue;
-        const DocState state = window->content().project().docState();
         KeptDemo record = recordOf(*window, kept);
         // They come back in this order.
         record.kept = moment = moment.addMSecs(1);
-        if (isModified)
-            record.demo = ProjectFile::of(state);
+        if (unsaved)
+            record.demo = ProjectFile::of(*unsaved);
         const auto failure = m_session->keep(record, ++kept.turn);
-        kept.state = state;
-        allKept = allKept && !(isModified && failure);
+        kept.state = unsaved;
+        allKept = allKept && !(unsaved && failure);
     }
     m_session->setEnded(allKept);
     m_hasEnded = allKept;
@@ -156,9 +155,13 @@ bool Autosave::keepAll()
 EditorWindow *Autosave::open(const KeptDemo &demo)
 {
     if (EditorWindow *window = m_documents.windowFor(demo.path)) {
+        if (!demo.demo)
+            return window;
+        // What it has itself is kept, too.
+        if (window->unsaved())
+            return m_documents.addUnsaved(std::make_unique<DemoDocument>(*demo.demo), {});
         // It was opened meanwhile; what was kept is then one edit, which can be undone.
-        if (demo.demo)
-            window->replace(DemoDocument(*demo.demo).project().docState(), tr("Restore"));
+        window->replace(DemoDocument(*demo.demo).project().docState(), tr("Restore"));
         return window;
     }
     if (demo.demo)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/KeptSession.h"
 #include "model/DocState.h"
+#include "model/KeptSession.h"
 
 #include <QCoroTask>
 #include <QObject>
@@ -57,9 +57,9 @@ private:
     void onDocumentChanged(EditorWindow *window);
     void goOn();
     void forget(Kept &kept);
-    bool isKept(const EditorWindow &window) const;
+    bool isKept(const Kept &kept, const DocState &state) const;
     static KeptDemo recordOf(const EditorWindow &window, const Kept &kept);
-    QCoro::Task<> keep(EditorWindow *window);
+    QCoro::Task<> keep(EditorWindow *window, DocState state);
     EditorWindow *open(const KeptDemo &demo);
 
     Documents &m_documents;

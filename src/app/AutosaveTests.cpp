@@ -1,6 +1,8 @@
 #include "app/Autosave.h"
 
 #include "app/DocumentsFixture.h"
+#include "base/KeyCode.h"
+#include "support/TemporaryHome.h"
 
 #include <QDir>
 #include <QTimer>
@@ -56,6 +58,25 @@ struct AutosaveTest : DocumentsFixture {
         return all;
     }
 
+    /// Records a click into the demo, and calls this before the recording ends.
+    void recordUntil(EditorWindow *window, const std::function<void()> &call)
+    {
+        static constexpr QPointF place(640, 400);
+        RecordActionsController &recording = window->content().recordActions();
+        const auto recorded = recording.record();
+        desktop.clock().at(3s, [this] {
+            desktop.tap().hear({.kind = InputEvent::Kind::leftMouseDown, .point = place});
+            desktop.tap().hear({.kind = InputEvent::Kind::leftMouseUp, .point = place});
+        });
+        desktop.clock().at(4s, call);
+        desktop.clock().at(5s, [this] { desktop.press(KeyCode::escape); });
+        QEventLoop loop;
+        QObject::connect(&recording, &RecordActionsController::finished, &loop, &QEventLoop::quit,
+                         Qt::QueuedConnection);
+        loop.exec();
+    }
+
+    TemporaryHome home;
     std::unique_ptr<Autosave> autosave;
 };
 
@@ -287,6 +308,82 @@ TEST_F(AutosaveTest, AnEndThatDoesNotComeLeavesNothingBehindOnceAllIsSaved)
     saved->save();
     EXPECT_EQ(kept().size(), 0);
     EXPECT_FALSE(autosave->hasEnded());
+}
+
+TEST_F(AutosaveTest, WhatOthersRemoveIsKeptAgain)
+{
+    edit(documents.newDemo());
+    tick();
+    ASSERT_TRUE(QDir(root()).removeRecursively());
+    tick();
+    EXPECT_EQ(kept().size(), 1);
+}
+
+TEST_F(AutosaveTest, WhatIsBeingRecordedIsKeptBeforeTheRecordingEnds)
+{
+    EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
+    QList<KeptDemo> all;
+    recordUntil(window, [&] {
+        EXPECT_FALSE(window->isModified());
+        tick();
+        for (const auto &found : QDir(root()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QFile kept(found.filePath() + '/' + QDir(found.filePath()).entryList({"*.kept"})[0]);
+            ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+            all += KeptDemo::from(kept.readAll());
+        }
+    });
+    ASSERT_EQ(all.size(), 1);
+    ASSERT_TRUE(all[0].demo);
+    EXPECT_EQ(all[0].demo->steps.size(), 2);
+    EXPECT_EQ(project(window).steps().size(), 2) << "once, when it has ended";
+    window->save();
+    EXPECT_TRUE(kept().isEmpty());
+}
+
+TEST_F(AutosaveTest, BeforeTheEndWhatIsBeingRecordedIsKeptToo)
+{
+    EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
+    recordUntil(window, [&] { EXPECT_TRUE(autosave->keepAll()); });
+    crash();
+    const QList<KeptDemo> all = left();
+    ASSERT_EQ(all.size(), 1);
+    ASSERT_TRUE(all[0].demo);
+    EXPECT_EQ(all[0].demo->steps.size(), 2);
+}
+
+TEST_F(AutosaveTest, WindowsThatWaitForAnExportToEndTakeNothingKeptWithThem)
+{
+    EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
+    exportLong(window, "movie.mp4");
+    edit(window);
+    EXPECT_TRUE(autosave->keepAll());
+    documents.quitKept();
+    autosave->tick();
+    waitFor(window);
+    EXPECT_TRUE(documents.windows().isEmpty());
+    EXPECT_EQ(kept().size(), 1);
+}
+
+TEST_F(AutosaveTest, OfTwoKeptOfOneFileNoneTakesTheOthersPlace)
+{
+    for (const int edits : {1, 2}) {
+        EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
+        for (int i = 0; i < edits; ++i)
+            edit(window);
+        tick();
+        crash();
+        start();
+    }
+    for (const auto &session : KeptSession::left(root()))
+        EXPECT_TRUE(autosave->restore(session->demos()[0], *session));
+    QList<qsizetype> steps;
+    for (EditorWindow *window : documents.windows()) {
+        EXPECT_TRUE(window->isModified());
+        steps.append(project(window).steps().size());
+    }
+    std::sort(steps.begin(), steps.end());
+    EXPECT_EQ(steps, QList<qsizetype>({2, 3}));
+    EXPECT_EQ(kept().size(), 2) << "both are on the disk still";
 }
 
 } // namespace velvane

@@ -16,7 +16,12 @@ DocumentFile::DocumentFile(const QString &path)
 DocumentFile::DocumentFile(const QString &path, const std::optional<FileStamp> &stamp)
     : m_path(path)
     , m_stamp(stamp)
-{}
+{
+    // A file system may have another device number each time that it is mounted.
+    const auto now = FileStamp::of(path);
+    if (now && m_stamp)
+        m_stamp->device = now->device;
+}
 
 DocumentFile::Fate DocumentFile::fate() const
 {

@@ -203,4 +203,14 @@ TEST_F(DocumentFileTest, ProcessesThatSaveAtTheSameTimeLoseNothingOfEachOther)
     EXPECT_EQ(DemoDocument::readFile(path("demo")).steps.size(), before + 2 * each);
 }
 
+TEST_F(DocumentFileTest, AfterARestartItIsTheSameOnADeviceOfAnotherNumber)
+{
+    auto stamp = FileStamp::of(path("a"));
+    ASSERT_TRUE(stamp);
+    ++stamp->device;
+    EXPECT_EQ(DocumentFile(path("a"), stamp).fate(), Fate::unchanged);
+    ++stamp->modified;
+    EXPECT_EQ(DocumentFile(path("a"), stamp).fate(), Fate::changed);
+}
+
 } // namespace velvane

@@ -75,6 +75,12 @@ bool EditorWindow::isModified() const
     return !m_saved || !(m_document->project().docState() == *m_saved);
 }
 
+std::optional<DocState> EditorWindow::unsaved() const
+{
+    DocState state = m_content->recordActions().stateSoFar();
+    return m_saved && state == *m_saved ? std::nullopt : std::optional(std::move(state));
+}
+
 void EditorWindow::setUnsaved()
 {
     m_saved.reset();

@@ -41,6 +41,9 @@ public:
     void setUntitledNumber(int number);
     int untitledNumber() const { return m_untitledNumber; }
     bool isModified() const;
+    /// What would be lost if the program ended now: the demo, with what is being recorded, unless
+    /// it is what is saved.
+    std::optional<DocState> unsaved() const;
     /// Counts the demo as modified, since it came from elsewhere than its file.
     void setUnsaved();
     /// Puts another state in place of the demo's, as one edit of this name.

@@ -241,4 +241,28 @@ TEST_F(EditorWindowFileTest, AFileThatMayNotBeReadIsRefusedWithTheReason)
     EXPECT_EQ(questionText(window), "“theirs.velvane” cannot be opened: Permission denied.");
 }
 
+// The system's own file panels ask before they replace a file, but about the name as it was typed.
+TEST_F(EditorWindowFileTest, ANameWithoutSuffixReplacesNoDemoUnasked)
+{
+    demo("b.velvane", 5);
+    const auto saveAs = [&](const QString &name) {
+        window->saveAs();
+        choose(window, file(name));
+    };
+    saveAs("b");
+    EXPECT_EQ(questionText(window), "“b.velvane” already exists.");
+    answer(window, "Cancel");
+    EXPECT_EQ(window->name(), "a");
+    saveAs("b");
+    answer(window, "Save As…");
+    choose(window, file("c"));
+    EXPECT_EQ(window->name(), "c");
+    EXPECT_EQ(stepsIn(file("c.velvane")), 2);
+    EXPECT_EQ(stepsIn(file("b.velvane")), 5);
+    saveAs("b");
+    answer(window, "Replace");
+    EXPECT_EQ(window->path(), file("b.velvane"));
+    EXPECT_EQ(stepsIn(file("b.velvane")), 2);
+}
+
 } // namespace velvane

@@ -16,8 +16,8 @@ namespace FilePanel {
 void open(QWidget *over, const QString &folder,
           const std::function<void(const QStringList &paths)> &then);
 
-/// `suggested` is a path or a name without folder; the extension is added where it is missing. The
-/// panel itself asks before a file is replaced.
+/// `suggested` is a path or a name without folder; the extension is added where it is missing. No
+/// file is replaced unasked.
 void save(QWidget *over, const QString &suggested,
           const std::function<void(const QString &path)> &then);
 

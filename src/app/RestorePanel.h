@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/KeptDemo.h"
+#include "model/KeptDemo.h"
 
 #include <QDialog>
 

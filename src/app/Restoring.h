@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/KeptSession.h"
 #include "app/RestorePanel.h"
+#include "model/KeptSession.h"
 
 #include <QPointer>
 

@@ -1,11 +1,15 @@
 #include "base/WholeFile.h"
 
+#include "base/FileAttributes.h"
+
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,6 +42,19 @@ int sync(const QSaveFile &file)
     return 0;
 }
 
+// A name that is not on the disk yet is lost with the power, or with a drive that is pulled out,
+// when nobody holds the bytes elsewhere any more. Some file systems know nothing of this.
+void syncName(const QString &path)
+{
+    const QString folder = QFileInfo(QFileInfo(path).canonicalFilePath()).path();
+    const int opened =
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened < 0)
+        return;
+    ::fsync(opened);
+    ::close(opened);
+}
+
 } // namespace
 
 std::optional<QString> write(const QString &path, QByteArrayView bytes)
@@ -49,10 +66,12 @@ std::optional<QString> write(const QString &path, QByteArrayView bytes)
     // Without a buffer of its own: it would not notice that a full disk took only a part of that.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, bytes))
         return file.errorString();
+    FileAttributes::copy(path, file.handle());
     if (const int error = sync(file))
         return qt_error_string(error);
     if (!file.commit())
         return file.errorString();
+    syncName(path);
     return {};
 }
 

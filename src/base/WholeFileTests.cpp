@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace velvane {
@@ -62,6 +63,36 @@ TEST_F(WholeFileTest, AnExistingFileKeepsItsMode)
     ASSERT_EQ(::chmod(qPrintable(path("a")), 0604), 0);
     EXPECT_FALSE(WholeFile::write(path("a"), "two"));
     EXPECT_EQ(modeOf("a"), 0604u);
+}
+
+TEST_F(WholeFileTest, AnExistingFileKeepsItsOwnerAndGroup)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root may give files away";
+    constexpr uid_t owner = 1234;
+    constexpr gid_t group = 4321;
+    EXPECT_FALSE(WholeFile::write(path("a"), "one"));
+    ASSERT_EQ(::chown(qPrintable(path("a")), owner, group), 0);
+    ASSERT_TRUE(QFile::link(path("a"), path("link")));
+    EXPECT_FALSE(WholeFile::write(path("link"), "two"));
+    struct stat about {};
+    ASSERT_EQ(::stat(qPrintable(path("a")), &about), 0);
+    EXPECT_EQ(about.st_uid, owner);
+    EXPECT_EQ(about.st_gid, group);
+}
+
+TEST_F(WholeFileTest, AnExistingFileKeepsItsAttributes)
+{
+    const QByteArray tags("holidays,work");
+    EXPECT_FALSE(WholeFile::write(path("a"), "one"));
+    if (::setxattr(qPrintable(path("a")), "user.xdg.tags", tags.constData(), size_t(tags.size()), 0)
+        != 0)
+        GTEST_SKIP() << "this file system has no attributes";
+    EXPECT_FALSE(WholeFile::write(path("a"), "two"));
+    QByteArray found(100, '\0');
+    found.resize(std::max<ssize_t>(
+        ::getxattr(qPrintable(path("a")), "user.xdg.tags", found.data(), size_t(found.size())), 0));
+    EXPECT_EQ(found, tags);
 }
 
 TEST_F(WholeFileTest, AFullDiskLeavesTheOldFileAndNothingElse)

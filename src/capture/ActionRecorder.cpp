@@ -67,6 +67,11 @@ QList<Step> ActionRecorder::finish()
     return m_builder ? m_builder->finish(m_desktop.clock().now()) : QList<Step>();
 }
 
+QList<Step> ActionRecorder::soFar() const
+{
+    return m_builder ? m_builder->soFar(m_desktop.clock().now()) : QList<Step>();
+}
+
 QString ActionRecorder::panelText() const
 {
     return m_panel ? m_panel->text() : QString();

@@ -27,6 +27,8 @@ public:
     /// Stops listening, takes the panel away and returns what was recorded, also when capturing was
     /// never switched on.
     QList<Step> finish();
+    /// What finish() would return, or has returned.
+    QList<Step> soFar() const;
 
     /// What the panel says; empty while there is none.
     QString panelText() const;

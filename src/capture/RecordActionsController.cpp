@@ -93,14 +93,19 @@ QCoro::Task<> RecordActionsController::record()
     co_await m_stop.countDown(eachNumber, show);
     const std::unique_ptr<RunRecorder> movie = startMovie();
     // The movie begins before it is open, and steps show where they happened in it.
-    const Seconds ahead = movie ? m_desktop.clock().now() - movie->begun() : 0s;
+    m_ahead = movie ? m_desktop.clock().now() - movie->begun() : 0s;
+    m_movie = movie ? movie->url() : QString();
     co_await capture();
-    const QList<Step> steps = countedFromEarlier(m_recorder->finish(), ahead);
+    m_recorder->finish();
     m_desktop.shell().unhide();
-    if (movie)
+    if (movie) {
         co_await movie->stop();
+        m_movie = movie->url();
+    }
     m_stop.stopWatching();
-    end(keep(steps, movie ? movie->url() : QString()));
+    const QList<Step> steps = stepsSoFar();
+    m_recorder.reset();
+    end(keep(steps));
 }
 
 // Makes ready; says why when it cannot.
@@ -170,24 +175,40 @@ QCoro::Task<> RecordActionsController::capture()
     setRecording(false);
 }
 
+QList<Step> RecordActionsController::stepsSoFar() const
+{
+    return m_recorder ? countedFromEarlier(m_recorder->soFar(), m_ahead) : QList<Step>();
+}
+
+DocState RecordActionsController::withRecorded(const QList<Step> &steps) const
+{
+    DocState state = m_project.docState();
+    state.steps += steps;
+    state.recordingBookmark = m_movie.isEmpty() ? std::nullopt : Bookmark::of(m_movie);
+    state.canvasSize = m_canvas;
+    return state;
+}
+
+DocState RecordActionsController::stateSoFar() const
+{
+    const QList<Step> steps = stepsSoFar();
+    return steps.isEmpty() ? m_project.docState() : withRecorded(steps);
+}
+
 // Makes the steps and the movie, if there is one, part of the demo, in one edit; returns what is to
 // be told.
-QString RecordActionsController::keep(const QList<Step> &steps, const QString &movie)
+QString RecordActionsController::keep(const QList<Step> &steps)
 {
     m_outcome = steps.isEmpty() ? Outcome::nothing : Outcome::recorded;
     if (steps.isEmpty())
         return tr("Recording stopped — no actions captured.");
-    m_project.edit(tr("Record Actions"), [&] {
-        m_project.setSteps(m_project.steps() + steps);
-        m_project.setRecordingBookmark(movie.isEmpty() ? std::nullopt : Bookmark::of(movie));
-        m_project.setCanvasSize(m_canvas);
-    });
+    m_project.edit(tr("Record Actions"), [&] { m_project.applyDocState(withRecorded(steps)); });
     m_project.setSelection(steps.constLast().id);
     StepList::uncollapseSectionContaining(m_project, steps.constLast().id);
     if (m_project.recordingBookmark())
         Q_EMIT movieRecorded();
     const QString told = steps.size() == 1 ? tr("Recorded %1 step%2.") : tr("Recorded %1 steps%2.");
-    return told.arg(steps.size()).arg(movie.isEmpty() ? QString() : tr(" with screen recording"));
+    return told.arg(steps.size()).arg(m_movie.isEmpty() ? QString() : tr(" with screen recording"));
 }
 
 void RecordActionsController::end(const QString &message)

@@ -64,6 +64,9 @@ public:
     /// the close, and `again` is called, queued, when the recording is over.
     bool cancelThen(QObject *context, const std::function<void()> &again);
 
+    /// The demo as it would be if the recording ended now; as it is while nothing is recorded.
+    DocState stateSoFar() const;
+
     /// The recorder of the current recording; null when there is none.
     ActionRecorder *recorder() const { return m_recorder.get(); }
 
@@ -86,7 +89,9 @@ private:
     bool prepare();
     std::unique_ptr<RunRecorder> startMovie();
     QCoro::Task<> capture();
-    QString keep(const QList<Step> &steps, const QString &movie);
+    QList<Step> stepsSoFar() const;
+    DocState withRecorded(const QList<Step> &steps) const;
+    QString keep(const QList<Step> &steps);
     void end(const QString &message);
     void setBusy(bool busy);
     void setRecording(bool recording);
@@ -102,6 +107,10 @@ private:
     QString m_held;
     StopRequest m_stop;
     std::unique_ptr<ActionRecorder> m_recorder;
+    /// Of the current recording; empty without one.
+    QString m_movie;
+    /// How much earlier than the recorder the movie began.
+    Seconds m_ahead{0};
     /// What is to be told of a movie that broke off; empty while there is nothing.
     QString m_movieEnd;
     Outcome m_outcome = Outcome::refused;

@@ -217,4 +217,24 @@ TEST_F(RecordActionsFixture, ACollapsedSectionOpensForTheStepsItGets)
     EXPECT_FALSE(project.steps()[0].collapsed);
 }
 
+TEST_F(RecordActionsFixture, WhatItHasSoFarCanBeHadBeforeItEnds)
+{
+    const qsizetype before = project.steps().size();
+    at(2s, [&] { EXPECT_EQ(controller.stateSoFar(), project.docState()); });
+    clickAt(3s);
+    at(3.5s, [&] { desktop.press(0, 0, "a"); });
+    at(4s, [&] {
+        const QList<Step> soFar = controller.stateSoFar().steps;
+        ASSERT_EQ(soFar.size(), before + 2);
+        EXPECT_EQ(soFar.constLast().text, "a");
+        EXPECT_EQ(project.steps().size(), before);
+    });
+    at(4.5s, [&] { desktop.press(0, 0, "b"); });
+    pressEscapeAt(5s);
+    record();
+    ASSERT_EQ(project.steps().size(), before + 2);
+    EXPECT_EQ(project.steps().constLast().text, "ab");
+    EXPECT_EQ(controller.stateSoFar(), project.docState());
+}
+
 } // namespace velvane

@@ -34,6 +34,9 @@ public:
     /// Stops capturing and hands out what was recorded, characters still waiting included.
     QList<Step> finish(Seconds now);
 
+    /// What finish() would hand out; capturing goes on.
+    QList<Step> soFar(Seconds now) const { return StepBuilder(*this).finish(now); }
+
     const QList<Step> &steps() const { return m_steps; }
 
 private:

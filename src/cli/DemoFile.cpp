@@ -20,6 +20,16 @@ ProjectFile readRecord(const std::string &path)
     }
 }
 
+bool isDemo(const QString &path)
+{
+    try {
+        DemoDocument::readFile(path);
+        return true;
+    } catch (const DocumentError &) {
+        return false;
+    }
+}
+
 void writeDemo(const ProjectFile &file, const QString &path)
 {
     // An editor may be about to replace the same file.

@@ -2,6 +2,7 @@
 
 #include "capture/RecordActionsController.h"
 #include "cli/DemoFile.h"
+#include "cli/KeptRecording.h"
 #include "cli/RescuedDemo.h"
 #include "cli/Waiting.h"
 
@@ -58,21 +59,26 @@ void append(const QList<Step> &steps, const std::optional<QByteArray> &movie,
 
 // The steps of a performance that nobody wants to give twice. What the demo was when it began goes
 // with them.
-[[noreturn]] void rescue(const CommandError &failure, const Project &project, const QString &path)
+[[noreturn]] void rescue(const CommandError &failure, const DocState &state, const QString &path,
+                         KeptRecording &kept)
 {
-    const std::optional<QString> kept = rescueDemo(project.fileSnapshot(), path);
-    if (!kept)
+    const std::optional<QString> rescued = rescueDemo(ProjectFile::of(state), path);
+    if (!rescued)
         throw failure;
-    throw CommandError(tr("%1; the recorded steps are in %2").arg(failure.what(), *kept));
+    kept.forget();
+    throw CommandError(tr("%1; the recorded steps are in %2").arg(failure.what(), *rescued));
 }
 
-void keep(const QList<Step> &steps, const Project &project, const std::string &demo)
+// Saves what was recorded after the first so many steps.
+void keep(const DocState &state, qsizetype before, const std::string &demo, KeptRecording &kept)
 {
+    kept.tick();
     try {
-        append(steps, project.recordingBookmark(), demo);
+        append(state.steps.sliced(before), state.recordingBookmark, demo);
     } catch (const CommandError &failure) {
-        rescue(failure, project, fileName(demo));
+        rescue(failure, state, fileName(demo), kept);
     }
+    kept.forget();
 }
 
 } // namespace
@@ -98,13 +104,25 @@ int recordDemo(const std::string &demo, Desktop &desktop, Console &console)
         &recording, &RecordActionsController::movieEnded, &recording,
         [&](const QString &message) { console.err << printable(message) << std::endl; });
     tellLargerScreen(recording, project.canvasSize(), console);
+    // Called as the process ends: there is nobody left to tell.
+    const auto save = [&](KeptRecording &kept) {
+        const DocState state = recording.stateSoFar();
+        if (state.steps.size() == before)
+            return;
+        try {
+            keep(state, before, demo, kept);
+        } catch (const CommandError &failure) {
+            console.err << printable(failure.message()) << std::endl;
+        }
+    };
+    KeptRecording kept(recording, fileName(demo), save);
     Waiting::forTask([&] { return recording.record(); }, [&] { recording.cancel(); });
 
     using Outcome = RecordActionsController::Outcome;
     if (recording.outcome() == Outcome::refused)
         throw CommandError(outcome);
     if (recording.outcome() == Outcome::recorded)
-        keep(project.steps().sliced(before), project, demo);
+        keep(project.docState(), before, demo, kept);
     console.out << printable(outcome) << std::endl;
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "base/KeyCode.h"
 #include "model/DemoDocument.h"
+#include "model/KeptSession.h"
 #include "model/ProjectFile.h"
 #include "platform/simulated/SimulatedDesktop.h"
 #include "support/Print.h"
@@ -102,6 +103,17 @@ TEST_F(DemoRecordTest, ASignalEndsItAsEscapeDoes)
     desktop.clock().at(4s, [] { std::raise(SIGTERM); });
     EXPECT_EQ(record(), 0);
     EXPECT_EQ(out.str(), "Recorded 1 step.\n");
+}
+
+TEST_F(DemoRecordTest, ATerminalThatClosesEndsItAsEscapeDoesHoweverOftenItTells)
+{
+    clickAt(3s);
+    for (const Seconds time : {4s, 4.01s})
+        desktop.clock().at(time, [] { std::raise(SIGHUP); });
+    EXPECT_EQ(record(), 0);
+    EXPECT_EQ(out.str(), "Recorded 1 step.\n");
+    EXPECT_EQ(saved().size(), 2);
+    EXPECT_TRUE(KeptSession::left(KeptSession::standardFolder()).empty());
 }
 
 TEST_F(DemoRecordTest, ALargerScreenIsToldInOneLineAndTheCanvasKept)

@@ -1,4 +1,3 @@
-#include "base/FileStamp.h"
 #include "cli/Commands.h"
 #include "cli/DemoFile.h"
 #include "cli/Interrupt.h"
@@ -44,7 +43,7 @@ int exportMovie(const Options &options, Console &console)
 {
     const DemoDocument demo = readDemo(options.demo);
     const QString path = fileName(options.movie);
-    if (FileStamp::isSameFile(path, fileName(options.demo)))
+    if (isDemo(path))
         throw CommandError(tr("%1: the movie would replace the demo").arg(path));
     const QString name = QFileInfo(path).fileName();
     const Interrupt interrupt;

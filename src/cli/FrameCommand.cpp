@@ -1,4 +1,3 @@
-#include "base/FileStamp.h"
 #include "base/WholeFile.h"
 #include "cli/Commands.h"
 #include "cli/DemoFile.h"
@@ -58,7 +57,7 @@ int renderFrame(const Options &options)
 {
     const DemoDocument demo = readDemo(options.demo);
     const QString path = fileName(options.output);
-    if (FileStamp::isSameFile(path, fileName(options.demo)))
+    if (isDemo(path))
         throw CommandError(tr("%1: the picture would replace the demo").arg(path));
     const Snapshot snap = demo.project().snapshot();
     const QImage frame = FrameRenderer::image(snap, Timeline(snap).state(Seconds(options.at)));

@@ -2,8 +2,8 @@
 
 namespace velvane::cli {
 
-/// While it lives, Ctrl-C and SIGTERM are noted instead of ending the process at once. One at a
-/// time.
+/// While it lives, Ctrl-C, SIGTERM and the terminal's closing are noted instead of ending the
+/// process at once. One at a time.
 class Interrupt {
 public:
     Interrupt();

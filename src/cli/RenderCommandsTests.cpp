@@ -57,6 +57,21 @@ TEST_F(CommandLineTest, ExportReplacesAnExistingFile)
     EXPECT_LT(QFile(folder.filePath("a.mp4")).size(), 1000000);
 }
 
+// As by "velvane export *.velvane" where there are two.
+TEST_F(CommandLineTest, NothingIsWrittenOverAnotherDemo)
+{
+    const std::string demo = sample();
+    ASSERT_EQ(runWith({"new", path("other.velvane")}).status, 0);
+    for (const auto &arguments : {std::vector<std::string>{"export", demo, path("other.velvane")},
+                                  std::vector<std::string>{"frame", demo, "--at", "0", "--output",
+                                                           path("other.velvane")}}) {
+        const Result result = runWith(arguments);
+        EXPECT_EQ(result.status, 1);
+        expectOneLine(result.err);
+        EXPECT_EQ(runWith({"inspect", path("other.velvane")}).status, 0);
+    }
+}
+
 TEST_F(CommandLineTest, NothingIsWrittenOverTheDemoItself)
 {
     const std::string demo = sample();

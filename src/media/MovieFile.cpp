@@ -108,6 +108,10 @@ void MovieFile::close()
         return;
     if (m_isRegular && ::ftruncate(m_file, m_size) != 0)
         fail(errno);
+    // What has no name any more is gone: removed, or replaced by another movie.
+    struct stat about {};
+    if (m_isRegular && ::fstat(m_file, &about) == 0 && about.st_nlink == 0)
+        fail(ENOENT);
     if (::close(m_file) != 0)
         fail(errno);
     m_file = -1;

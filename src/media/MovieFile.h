@@ -41,7 +41,8 @@ public:
     /// How far the file reaches, without room that was claimed but not written.
     qint64 size() const { return m_size; }
 
-    /// Cuts off unused room and closes. A failure is remembered.
+    /// Cuts off unused room and closes. A failure is remembered; that the file was removed or
+    /// replaced meanwhile is one.
     void close();
 
     bool hasFailed() const { return m_error != 0; }

@@ -80,4 +80,17 @@ TEST(MovieFile, ALinkThatAnotherUserPlantedInASharedFolderIsRefused)
     EXPECT_FALSE(isRefusedTo(nobody, shared + "/b.mp4"));
 }
 
+TEST(MovieFile, OfTwoOfOneNameTheReplacedOneHasFailed)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("a.mp4");
+    MovieFile first(path);
+    MovieFile second(path);
+    first.close();
+    second.close();
+    EXPECT_TRUE(first.hasFailed());
+    EXPECT_EQ(first.failure(), "No such file or directory");
+    EXPECT_FALSE(second.hasFailed());
+}
+
 } // namespace velvane

@@ -2,6 +2,7 @@
 """Recording real actions from the command line: the steps that are saved are compared with what an
 independent listener heard; run live, they make the same input again."""
 
+import os
 import plistlib
 import signal
 import subprocess
@@ -219,6 +220,38 @@ class FromTheCommandLine(RecordingTest):
         process.send_signal(signal.SIGINT)
         self.ended(process, 0, out="Recorded 2 steps with screen recording.\n")
         self.assertEqual([s["kind"] for s in self.steps], ["move", "click"])
+
+    def test_a_terminal_that_closes_ends_it_and_saves(self):
+        self.write()
+        process = self.record()
+        xdotool("mousemove", 700, 700, "click", LEFT)
+        wait_for(lambda: len(self.heard.buttons()) == 2, "the click")
+        time.sleep(REST)
+        process.send_signal(signal.SIGHUP)
+        self.ended(process, 0, out="Recorded 2 steps with screen recording.\n")
+        self.assertEqual([s["kind"] for s in self.steps], ["move", "click"])
+
+    def test_a_display_that_goes_takes_no_steps_with_it(self):
+        server = Server()
+        self.addCleanup(server.stop)
+        environment = {**os.environ, "DISPLAY": server.display}
+        manager = subprocess.Popen(["openbox"], env=environment, stderr=subprocess.DEVNULL)
+        self.addCleanup(manager.wait)
+        self.addCleanup(manager.kill)
+        self.write()
+        process = self.command("record", DISPLAY=server.display)
+
+        def on_it(*arguments):
+            return subprocess.run(["xdotool", *map(str, arguments)], env=environment,
+                                  capture_output=True, check=False).returncode == 0
+
+        for text in ("Recording starts in", "● Recording"):
+            wait_for(lambda: on_it("search", "--onlyvisible", "--name", f"^{text}"), text)
+        on_it("mousemove", 700, 700, "click", LEFT)
+        time.sleep(REST)
+        server.stop()
+        told = process.communicate(timeout=60)
+        self.assertEqual([s["kind"] for s in self.steps], ["move", "click"], told)
 
     def test_a_smaller_canvas_is_told_and_kept(self):
         self.write(canvas=(1280, 800))

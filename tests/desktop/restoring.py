@@ -6,11 +6,17 @@ import signal
 import subprocess
 
 from accessible import wait_for
-from driver import Editor
+from driver import Editor, xdotool
 from fixture import PROGRAM, EditorTest, kinds, main, step, write_demo
 from server import Server
 
 CRASHED = "Velvane did not end properly the last time."
+
+
+def shown(title):
+    """Is a window of this title on the screen?"""
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                          stdout=subprocess.DEVNULL, check=False).returncode == 0
 
 
 class RestoringTest(EditorTest):
@@ -70,7 +76,8 @@ class Ends(RestoringTest):
         self.start().wait_titles("demo")
         self.assertEqual(self.kept(), [])
 
-    def test_a_display_that_goes_takes_no_work_with_it(self):
+    def lose_display(self, work):
+        """Takes the display away while an editor has what `work` leaves in it."""
         server = Server()
         self.addCleanup(server.stop)
         display = os.environ["DISPLAY"]
@@ -79,12 +86,32 @@ class Ends(RestoringTest):
         manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
         self.addCleanup(manager.wait)
         self.addCleanup(manager.kill)
-        editor = self.start_changed()
+        editor = work()
         self.addCleanup(setattr, editor.process, "returncode", 0)
         server.stop()
         wait_for(lambda: not editor.is_running, "the program to end")
         os.environ["DISPLAY"] = display
+
+    def test_a_display_that_goes_takes_no_work_with_it(self):
+        self.lose_display(self.start_changed)
         self.assert_comes_back()
+
+    def test_nor_what_is_being_recorded(self):
+        def record():
+            write_demo(self.demo, step("click"))
+            editor = self.start(self.demo)
+            editor.click(editor.find("push button", "Record"))
+            editor.answer("Keep Canvas")
+            wait_for(lambda: shown("● Recording — Esc to stop"), "the panel of the recording")
+            # The pointer has rested when the click comes.
+            xdotool("mousemove", 30, 30, "sleep", 1, "click", 1)
+            return editor
+
+        self.lose_display(record)
+        self.assertEqual(kinds(self.demo), ["click"])
+        editor = self.start()
+        editor.wait_titles("demo*")
+        editor.wait_rows("1, Click", "2, Move", "3, Click")
 
 
 class Crashes(RestoringTest):

@@ -7,9 +7,9 @@
 // there whole.
 
 #include "app/DocumentFile.h"
-#include "app/KeptSession.h"
 #include "model/DemoDocument.h"
 #include "model/DocumentError.h"
+#include "model/KeptSession.h"
 
 #include <QFile>
 

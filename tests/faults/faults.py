@@ -114,6 +114,15 @@ class Saving(Faults, unittest.TestCase):
         self.assertEqual(os.listdir(self.folder), [self.place.name], "nothing is left behind")
         return came
 
+    def test_it_counts_as_saved_when_its_name_is_on_the_disk(self):
+        self.first_version()
+        # Before it come the file's own.
+        result = self.helper("save", self.place, 2, 2, LD_PRELOAD=INJECTOR,
+                             VELVANE_FAULT=f"sync:3:{errno.EIO}",
+                             VELVANE_FAULT_FOLDER=str(self.folder))
+        self.assertEqual((result.returncode, result.stderr), (0, "fault\n"))
+        self.assertEqual(self.there(), [2])
+
 
 class Keeping(Faults, unittest.TestCase):
     write, read = "keep", "kept"

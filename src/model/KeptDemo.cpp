@@ -1,4 +1,4 @@
-#include "app/KeptDemo.h"
+#include "model/KeptDemo.h"
 
 #include "model/DocumentError.h"
 #include "model/Fields.h"

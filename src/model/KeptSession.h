@@ -1,6 +1,8 @@
 #pragma once
 
-#include "app/KeptDemo.h"
+#include "model/KeptDemo.h"
+
+#include <QFile>
 
 #include <map>
 #include <mutex>
@@ -33,6 +35,8 @@ public:
     /// Keeps a demo instead of what was kept under its id. Of several the one with the highest
     /// `turn` stays, whichever comes last. Returns why it failed. Any thread.
     std::optional<QString> keep(const KeptDemo &demo, int turn);
+    /// Is anything kept under this id? Others may have removed it.
+    bool holds(const QUuid &id) const { return QFile::exists(file(id)); }
     /// Removes a demo; one of this id is never kept again. Does not wait for what is being written.
     /// Any thread.
     void forget(const QUuid &id);
@@ -48,10 +52,11 @@ private:
 
     static Ptr adopt(const QString &path);
     QString file(const QUuid &id) const;
+    bool isOnDisk() const;
     std::optional<QString> begin();
 
     const QString m_path;
-    /// Of the file "lock" in the folder; -1 while that is not on the disk.
+    /// Of the file "lock" in the folder; -1 while that has not been on the disk.
     int m_lock = -1;
     /// Guards the lock and the turns; nobody holds it while bytes go to the disk.
     std::mutex m_mutex;

@@ -1,4 +1,4 @@
-#include "app/KeptSession.h"
+#include "model/KeptSession.h"
 
 #include "model/DemoDocument.h"
 #include "model/DocumentError.h"
@@ -241,6 +241,19 @@ TEST_F(KeptSessionTest, AFolderThatCannotBeMadeIsAReason)
     QFile(folder.filePath("file")).open(QIODevice::WriteOnly);
     KeptSession session(folder.filePath("file/sessions"));
     EXPECT_TRUE(session.keep(demo("one"), 1));
+}
+
+TEST_F(KeptSessionTest, AFolderThatOthersRemoveIsMadeAgain)
+{
+    KeptSession session(root());
+    const KeptDemo one = demo("one");
+    EXPECT_FALSE(session.keep(one, 1));
+    EXPECT_TRUE(session.holds(one.id));
+    ASSERT_TRUE(QDir(root()).removeRecursively());
+    EXPECT_FALSE(session.holds(one.id));
+    EXPECT_FALSE(session.keep(one, 2));
+    EXPECT_EQ(titles(session), QStringList{"one"});
+    EXPECT_TRUE(left().empty()) << "it is still ours";
 }
 
 TEST_F(KeptSessionTest, NobodyElseMayReadIt)

@@ -1,4 +1,4 @@
-#include "app/KeptSession.h"
+#include "model/KeptSession.h"
 
 #include "base/WholeFile.h"
 #include "model/DocumentError.h"
@@ -92,12 +92,20 @@ KeptSession::Ptr KeptSession::adopt(const QString &path)
     return Ptr(new KeptSession(path, lock));
 }
 
-// Nobody sees the folder before it is locked: it comes into being under a hidden name.
+bool KeptSession::isOnDisk() const
+{
+    return m_lock >= 0 && isInPlace(m_lock, m_path + lockName);
+}
+
+// Nobody sees the folder before it is locked: it comes into being under a hidden name. Who clears
+// up the state folder may have removed it since.
 std::optional<QString> KeptSession::begin()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_lock >= 0)
+    if (isOnDisk())
         return {};
+    if (m_lock >= 0)
+        ::close(std::exchange(m_lock, -1));
     const QDir all(QFileInfo(m_path).path());
     const QString made = all.filePath(u'.' + QFileInfo(m_path).fileName());
     if (!QDir().mkpath(all.path()))
