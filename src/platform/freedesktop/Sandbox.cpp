@@ -53,7 +53,9 @@ QString Sandbox::commandThatReaches()
 
 QStringList Sandbox::inSession(const QStringList &command, const QString &folder)
 {
-    return QStringList{"flatpak-spawn", "--host", "--directory=" + folder} + command;
+    // The sandbox would last as long as what is started.
+    return QStringList{"flatpak-spawn", "--host", "--directory=" + folder, "setsid", "--fork"}
+           + command;
 }
 
 } // namespace velvane
