@@ -1,4 +1,4 @@
-# How every target is compiled: C++20, warnings as errors, hardening, optional sanitizers.
+# How every target is compiled: C++20, warnings, hardening, optional sanitizers.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -11,7 +11,8 @@ target_compile_definitions(velvane_options INTERFACE
     VELVANE_VERSION="${PROJECT_VERSION}")
 target_compile_options(velvane_options INTERFACE
     # Designated initialisers leave fields at their defaults on purpose.
-    -Wall -Wextra -Wno-missing-field-initializers -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Werror
+    -Wall -Wextra -Wno-missing-field-initializers -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+    $<$<BOOL:${VELVANE_WARNINGS_ARE_ERRORS}>:-Werror>
     -fstack-protector-strong)
 if(VELVANE_SANITIZE)
     target_compile_options(velvane_options INTERFACE

@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>Applications</source>
-        <extracomment>AppMenu</extracomment>
+        <extracomment>AppMenu, SessionServices</extracomment>
         <translation>Programme</translation>
     </message>
     <message>
@@ -2182,6 +2182,21 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Installieren Sie eine Dateiverwaltung und xdg-utils, damit Aufnahmen gezeigt werden können.</translation>
     </message>
     <message>
+        <source>can be started</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>können gestartet werden</translation>
+    </message>
+    <message>
+        <source>only running ones can be switched to</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>nur zu laufenden kann gewechselt werden</translation>
+    </message>
+    <message>
+        <source>Start them before a live run, or allow it: %1</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Starten Sie sie vor dem Live-Lauf, oder erlauben Sie es: %1</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>Schritt hinzufügen</translation>
@@ -2355,6 +2370,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <source>Display program version information and exit</source>
         <extracomment>cli</extracomment>
         <translation>Die Version ausgeben und beenden</translation>
+    </message>
+    <message>
+        <source>This Flatpak cannot reach it. Give it the folder: %1</source>
+        <extracomment>cli</extracomment>
+        <translation>Dieses Flatpak kommt da nicht heran. Geben Sie ihm den Ordner: %1</translation>
     </message>
     <message>
         <source>Write a demo in the binary format, from binary or XML</source>

@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>Applications</source>
-        <extracomment>AppMenu</extracomment>
+        <extracomment>AppMenu, SessionServices</extracomment>
         <translation>Aplicaciones</translation>
     </message>
     <message>
@@ -2182,6 +2182,21 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>Instale un gestor de archivos y xdg-utils para poder mostrar las grabaciones.</translation>
     </message>
     <message>
+        <source>can be started</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>se pueden iniciar</translation>
+    </message>
+    <message>
+        <source>only running ones can be switched to</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>solo se puede cambiar a las que están en ejecución</translation>
+    </message>
+    <message>
+        <source>Start them before a live run, or allow it: %1</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Inícielas antes de una ejecución en vivo o permítalo: %1</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>Añadir paso</translation>
@@ -2355,6 +2370,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <source>Display program version information and exit</source>
         <extracomment>cli</extracomment>
         <translation>Mostrar la versión y salir</translation>
+    </message>
+    <message>
+        <source>This Flatpak cannot reach it. Give it the folder: %1</source>
+        <extracomment>cli</extracomment>
+        <translation>Este Flatpak no puede acceder a él. Dele la carpeta: %1</translation>
     </message>
     <message>
         <source>Write a demo in the binary format, from binary or XML</source>

@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>Applications</source>
-        <extracomment>AppMenu</extracomment>
+        <extracomment>AppMenu, SessionServices</extracomment>
         <translation>Applications</translation>
     </message>
     <message>
@@ -2182,6 +2182,21 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Installez un gestionnaire de fichiers et xdg-utils, pour que les enregistrements puissent être montrés.</translation>
     </message>
     <message>
+        <source>can be started</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>peuvent être lancées</translation>
+    </message>
+    <message>
+        <source>only running ones can be switched to</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>seules celles qui sont en cours d’exécution peuvent passer au premier plan</translation>
+    </message>
+    <message>
+        <source>Start them before a live run, or allow it: %1</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>Lancez-les avant une exécution en direct, ou autorisez-le : %1</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>Ajouter une étape</translation>
@@ -2355,6 +2370,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <source>Display program version information and exit</source>
         <extracomment>cli</extracomment>
         <translation>Afficher la version et quitter</translation>
+    </message>
+    <message>
+        <source>This Flatpak cannot reach it. Give it the folder: %1</source>
+        <extracomment>cli</extracomment>
+        <translation>Ce Flatpak ne peut pas y accéder. Donnez-lui le dossier : %1</translation>
     </message>
     <message>
         <source>Write a demo in the binary format, from binary or XML</source>

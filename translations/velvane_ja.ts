@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>Applications</source>
-        <extracomment>AppMenu</extracomment>
+        <extracomment>AppMenu, SessionServices</extracomment>
         <translation>アプリケーション</translation>
     </message>
     <message>
@@ -2182,6 +2182,21 @@ Results go to standard output, messages and progress to standard error.
         <translation>録画を表示できるように、ファイルマネージャーと xdg-utils をインストールしてください。</translation>
     </message>
     <message>
+        <source>can be started</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>起動できます</translation>
+    </message>
+    <message>
+        <source>only running ones can be switched to</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>実行中のものにだけ切り替えられます</translation>
+    </message>
+    <message>
+        <source>Start them before a live run, or allow it: %1</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>ライブ実行の前に起動しておくか、許可してください: %1</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>ステップを追加</translation>
@@ -2355,6 +2370,11 @@ Results go to standard output, messages and progress to standard error.
         <source>Display program version information and exit</source>
         <extracomment>cli</extracomment>
         <translation>バージョンを表示して終了</translation>
+    </message>
+    <message>
+        <source>This Flatpak cannot reach it. Give it the folder: %1</source>
+        <extracomment>cli</extracomment>
+        <translation>このFlatpakからはアクセスできません。フォルダを指定してください: %1</translation>
     </message>
     <message>
         <source>Write a demo in the binary format, from binary or XML</source>

@@ -30,7 +30,7 @@
     </message>
     <message>
         <source>Applications</source>
-        <extracomment>AppMenu</extracomment>
+        <extracomment>AppMenu, SessionServices</extracomment>
         <translation>应用程序</translation>
     </message>
     <message>
@@ -2181,6 +2181,21 @@ Results go to standard output, messages and progress to standard error.
         <translation>请安装文件管理器和 xdg-utils，以便显示录像。</translation>
     </message>
     <message>
+        <source>can be started</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>可以启动</translation>
+    </message>
+    <message>
+        <source>only running ones can be switched to</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>只能切换到正在运行的应用</translation>
+    </message>
+    <message>
+        <source>Start them before a live run, or allow it: %1</source>
+        <extracomment>SessionServices</extracomment>
+        <translation>请在实时运行前启动它们，或予以允许：%1</translation>
+    </message>
+    <message>
         <source>Add Step</source>
         <extracomment>StepCommands</extracomment>
         <translation>添加步骤</translation>
@@ -2354,6 +2369,11 @@ Results go to standard output, messages and progress to standard error.
         <source>Display program version information and exit</source>
         <extracomment>cli</extracomment>
         <translation>显示版本并退出</translation>
+    </message>
+    <message>
+        <source>This Flatpak cannot reach it. Give it the folder: %1</source>
+        <extracomment>cli</extracomment>
+        <translation>此 Flatpak 无法访问它。请授予文件夹权限：%1</translation>
     </message>
     <message>
         <source>Write a demo in the binary format, from binary or XML</source>

@@ -30,7 +30,7 @@ RunRecorder::Making usual()
     const auto writer = [](const QString &path, QSize size) {
         return std::make_unique<QueuedWriter>(std::make_unique<RecordingWriter>(path, size));
     };
-    return {.writer = writer, .date = &QDateTime::currentDateTime};
+    return {.writer = writer, .date = [] { return QDateTime::currentDateTime(); }};
 }
 
 // A movie's sides are even and not 0.

@@ -2,6 +2,7 @@
 
 #include "base/PlainLine.h"
 #include "language/Languages.h"
+#include "platform/freedesktop/Sandbox.h"
 
 #include <QFile>
 
@@ -26,7 +27,12 @@ std::string help(const char *english)
 
 QString fileName(const std::string &argument)
 {
-    return QFile::decodeName(QByteArray::fromStdString(argument));
+    QString name = QFile::decodeName(QByteArray::fromStdString(argument));
+    if (Sandbox::isOutOfReach(name))
+        throw CommandError(name + ": "
+                           + tr("This Flatpak cannot reach it. Give it the folder: %1")
+                                 .arg(Sandbox::commandThatReaches()));
+    return name;
 }
 
 } // namespace velvane::cli

@@ -41,7 +41,8 @@ QString tr(const char *english);
 /// The same as the parser takes it.
 std::string help(const char *english);
 
-/// A file name as the shell gave it. Call after the application object exists.
+/// A file name as the shell gave it. Call after the application object exists. Throws CommandError
+/// for a file that cannot be reached from the sandbox that we are in.
 QString fileName(const std::string &argument);
 
 } // namespace velvane::cli

@@ -43,9 +43,23 @@ int refuse(AVFormatContext *, AVIOContext **, const char *, int, AVDictionary **
     return AVERROR(EPERM);
 }
 
+// FFmpeg 6.1 moved it. `size` in bytes.
+const std::uint8_t *sideData(const AVStream &track, AVPacketSideDataType type, size_t &size)
+{
+#if LIBAVFORMAT_VERSION_INT >= AV_VERSION_INT(60, 15, 100)
+    const AVPacketSideData *data = av_packet_side_data_get(
+        track.codecpar->coded_side_data, track.codecpar->nb_coded_side_data, type);
+    size = data ? data->size : 0;
+    return data ? data->data : nullptr;
+#else
+    return av_stream_get_side_data(&track, type, &size);
+#endif
+}
+
 bool isEncrypted(const AVStream &track)
 {
-    return av_stream_get_side_data(&track, AV_PKT_DATA_ENCRYPTION_INIT_INFO, nullptr)
+    size_t size = 0;
+    return sideData(track, AV_PKT_DATA_ENCRYPTION_INIT_INFO, size)
            || av_dict_get(track.metadata, "enc_key_id", nullptr, 0);
 }
 
@@ -53,7 +67,7 @@ bool isEncrypted(const AVStream &track)
 QTransform turnOf(const AVStream &track)
 {
     size_t size = 0;
-    const auto *bytes = av_stream_get_side_data(&track, AV_PKT_DATA_DISPLAYMATRIX, &size);
+    const auto *bytes = sideData(track, AV_PKT_DATA_DISPLAYMATRIX, size);
     if (!bytes || size < 9 * sizeof(std::int32_t))
         return {};
     const auto *matrix = reinterpret_cast<const std::int32_t *>(bytes);

@@ -159,7 +159,8 @@ void Mp4Context::setOption(const char *name, qint64 value)
     av_opt_set_int(m_format->priv_data, name, value, 0);
 }
 
-int Mp4Context::writeBytes(void *self, quint8 *bytes, int count)
+template <typename Byte>
+int Mp4Context::writeBytes(void *self, Byte *bytes, int count)
 {
     auto &context = *static_cast<Mp4Context *>(self);
     context.m_output.write(context.m_outputPosition, bytes, count);

@@ -67,7 +67,9 @@ private:
     void addStream(const Track &track);
     void writeHeader(Options options);
 
-    static int writeBytes(void *self, quint8 *bytes, int count);
+    /// FFmpeg 7 passes what it wants written as constant bytes.
+    template <typename Byte>
+    static int writeBytes(void *self, Byte *bytes, int count);
     static std::int64_t seek(void *self, std::int64_t offset, int whence);
 
     Output &m_output;

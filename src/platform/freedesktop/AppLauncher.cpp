@@ -1,6 +1,7 @@
 #include "platform/freedesktop/AppLauncher.h"
 
 #include "base/Background.h"
+#include "platform/freedesktop/Sandbox.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -29,22 +30,33 @@ bool isServiceName(const QString &id)
     return parts.size() > 1 && id.size() < 256 && std::ranges::all_of(parts, isPart);
 }
 
+// By its path; by its name where it is out of our sight but there.
+QString findProgram(const QString &name, const QProcessEnvironment &environment)
+{
+    if (!Sandbox::isAround())
+        return QStandardPaths::findExecutable(name, environment.value("PATH").split(u':'));
+    const QStringList folders{Sandbox::seenFromInside("/usr/local/bin"),
+                              Sandbox::seenFromInside("/usr/bin")};
+    return QStandardPaths::findExecutable(name, folders).isEmpty() ? QString() : name;
+}
+
 void start(const DesktopEntry &entry, const QProcessEnvironment &environment)
 {
     QStringList command = commandOf(entry);
     if (command.isEmpty())
         return;
     if (entry.terminal) {
-        const QStringList folders = environment.value("PATH").split(u':');
-        command = AppLauncher::inTerminal(command, [&](const QString &name) {
-            return QStandardPaths::findExecutable(name, folders);
-        });
+        command = AppLauncher::inTerminal(
+            command, [&](const QString &name) { return findProgram(name, environment); });
     }
+    const QString folder = QDir(entry.folder).isAbsolute() ? entry.folder : QDir::homePath();
+    if (Sandbox::isAround())
+        command = Sandbox::inSession(command, folder);
     QProcess process;
     process.setProgram(command.takeFirst());
     process.setArguments(command);
     process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(QDir(entry.folder).isAbsolute() ? entry.folder : QDir::homePath());
+    process.setWorkingDirectory(Sandbox::isAround() ? QDir::homePath() : folder);
     // Our own output is for our results.
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());

@@ -61,11 +61,12 @@ private:
 };
 
 // Has it something to start, and does TryExec, if there is one, name a program that exists?
-bool canStart(const DesktopEntry &entry)
+bool canStart(const DesktopEntry &entry, const SessionFolders &folders)
 {
     if (programOf(entry.exec).isEmpty() && !entry.dBusActivatable)
         return false;
-    return entry.tryExec.isEmpty() || !QStandardPaths::findExecutable(entry.tryExec).isEmpty();
+    return entry.tryExec.isEmpty() || folders.programsAreHidden
+           || !QStandardPaths::findExecutable(entry.tryExec).isEmpty();
 }
 
 } // namespace
@@ -84,7 +85,7 @@ DesktopEntries::List DesktopEntries::shown()
 {
     List list = *all();
     std::erase_if(list, [&](const DesktopEntry &entry) {
-        return !isShown(entry, m_folders.desktops) || !canStart(entry);
+        return !isShown(entry, m_folders.desktops) || !canStart(entry, m_folders);
     });
     return list;
 }

@@ -134,6 +134,15 @@ TEST_F(DesktopEntriesTest, WhatCannotBeStartedIsNotShown)
     EXPECT_EQ(shown(), QStringList({"b=B", "d=D"}));
 }
 
+TEST_F(DesktopEntriesTest, ProgramsThatAreOutOfSightAreTakenToBeThere)
+{
+    app("own/applications/a.desktop", "A", "TryExec=/nowhere/at-all\n");
+    SessionFolders around = folders();
+    around.programsAreHidden = true;
+    ASSERT_EQ(DesktopEntries(around).shown().size(), 1U);
+    EXPECT_EQ(DesktopEntries(around).shown().front().name, "A");
+}
+
 TEST_F(DesktopEntriesTest, AllHoldsTheUndisplayedAsWell)
 {
     app("own/applications/a.desktop", "A", "NoDisplay=true\n");
@@ -188,6 +197,22 @@ TEST(SessionFolders, HaveTheDefaultsOfTheStandard)
               QStringList({"/home/ann/.local/share", "/usr/local/share", "/usr/share"}));
     EXPECT_TRUE(folders.desktops.isEmpty());
     EXPECT_TRUE(folders.locale.isEmpty());
+}
+
+TEST(SessionFolders, InASandboxAreThoseOfTheSessionAroundIt)
+{
+    const auto around = [](std::initializer_list<std::pair<QString, QString>> values) {
+        return SessionFolders::from(environment(values), true);
+    };
+    const QStringList system{"/var/lib/flatpak/exports/share", "/run/host/usr/local/share",
+                             "/run/host/usr/share"};
+    EXPECT_EQ(around({{"HOME", "/home/ann"},
+                      {"XDG_DATA_HOME", "/home/ann/.var/app/x/data"},
+                      {"XDG_DATA_DIRS", "/app/share:/usr/share"}})
+                  .data,
+              QStringList("/home/ann/.local/share") + system);
+    EXPECT_EQ(around({{"HOME", "/home/ann"}, {"HOST_XDG_DATA_HOME", "/data"}}).data,
+              QStringList("/data") + system);
 }
 
 TEST(SessionFolders, TheMostGeneralLocaleVariableWins)

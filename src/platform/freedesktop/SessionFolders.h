@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/freedesktop/Sandbox.h"
+
 #include <QProcessEnvironment>
 #include <QStringList>
 
@@ -13,10 +15,13 @@ struct SessionFolders {
     QString locale;
     /// The desktop's names, the most specific first.
     QStringList desktops;
+    /// Are the programs that entries name out of sight, so that none can be missed?
+    bool programsAreHidden = false;
 
     /// Reads the XDG base folders with their defaults, the locale and XDG_CURRENT_DESKTOP. Folders
-    /// that are not absolute are left out.
-    static SessionFolders from(const QProcessEnvironment &environment);
+    /// that are not absolute are left out. In a sandbox they are those of the session around it.
+    static SessionFolders from(const QProcessEnvironment &environment,
+                               bool inSandbox = Sandbox::isAround());
 };
 
 } // namespace velvane

@@ -1,5 +1,7 @@
 #include "platform/freedesktop/SessionServices.h"
 
+#include "platform/freedesktop/Sandbox.h"
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -46,6 +48,18 @@ DesktopFact fileManager()
             tr("Install a file manager, and xdg-utils, so that recordings can be shown.")};
 }
 
+// Whether a demo's switch can start an application, which takes a permission in a sandbox.
+DesktopFact starting()
+{
+    const QString what = tr("Applications");
+    if (canBeHad("org.freedesktop.Flatpak"))
+        return {what, tr("can be started"), {}};
+    return {what, tr("only running ones can be switched to"),
+            tr("Start them before a live run, or allow it: %1")
+                .arg("flatpak override --user --talk-name=org.freedesktop.Flatpak "
+                     "com.orvikel.velvane")};
+}
+
 } // namespace
 
 bool canBeHad(const QString &service)
@@ -60,7 +74,10 @@ bool canBeHad(const QString &service)
 
 std::vector<DesktopFact> facts()
 {
-    return {bus(), portal(), fileManager()};
+    std::vector<DesktopFact> facts{bus(), portal(), fileManager()};
+    if (Sandbox::isAround())
+        facts.push_back(starting());
+    return facts;
 }
 
 } // namespace velvane::SessionServices

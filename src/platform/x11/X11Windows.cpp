@@ -1,6 +1,8 @@
 #include "platform/x11/X11Windows.h"
 
+#include "platform/freedesktop/Sandbox.h"
 #include "platform/x11/X11Property.h"
+#include "platform/x11/capture/X11OwnWindows.h"
 
 #include <QMargins>
 #include <QSysInfo>
@@ -88,7 +90,7 @@ public:
         window.wmInstance = names.value(0);
         window.wmClass = names.value(1);
         const std::vector<uint32_t> pid = m_pid.numbers();
-        if (!pid.empty() && isLocal())
+        if (!pid.empty() && isLocal() && isOfOurNumbers())
             window.pid = pid.front();
         window.applicationId = m_gtkId.text();
         if (window.applicationId.isEmpty())
@@ -107,6 +109,12 @@ private:
     {
         const QString machine = m_machine.texts().value(0);
         return machine.isEmpty() || machine == QSysInfo::machineHostName();
+    }
+
+    // Each sandbox counts its processes anew, so most of them have one that is ours by its number.
+    bool isOfOurNumbers() const
+    {
+        return !Sandbox::isAround() || X11OwnWindows::ofThisProcess().isMadeByUs(m_window);
     }
 
     bool has(X11Property &property, const QByteArray &atom)

@@ -12,7 +12,8 @@ namespace velvane {
 /// What a window says about itself.
 struct X11Window {
     xcb_window_t id = XCB_NONE;
-    /// The process on this machine; 0 when it does not say or runs on another.
+    /// The process on this machine; 0 when it does not say or runs on another. In a sandbox only
+    /// our own, the others being out of sight.
     qint64 pid = 0;
     QString wmInstance;
     QString wmClass;

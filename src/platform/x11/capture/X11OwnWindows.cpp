@@ -1,5 +1,6 @@
 #include "platform/x11/capture/X11OwnWindows.h"
 
+#include "platform/freedesktop/Sandbox.h"
 #include "platform/x11/X11Property.h"
 
 #include <QCoreApplication>
@@ -16,6 +17,8 @@ constexpr int deepestClient = 2;
 
 bool namesThisProcess(const X11Connection &connection, xcb_window_t window)
 {
+    if (Sandbox::isAround())
+        return false;
     const std::vector<uint32_t> pid = X11Property(connection, window, "_NET_WM_PID").numbers();
     return !pid.empty() && pid.front() == uint32_t(QCoreApplication::applicationPid());
 }
