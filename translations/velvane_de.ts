@@ -612,6 +612,21 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>Nicht speichern</translation>
     </message>
     <message>
+        <source>“%1” is still being exported.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>„%1“ wird noch exportiert.</translation>
+    </message>
+    <message>
+        <source>Closing the demo stops the export before its movie is whole.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Wird die Demo geschlossen, endet der Export, bevor der Film vollständig ist.</translation>
+    </message>
+    <message>
+        <source>Stop Export</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Export beenden</translation>
+    </message>
+    <message>
         <source>The recording backdrop is only for the preview: the movie shows the demo's still backdrop.</source>
         <extracomment>ExportController</extracomment>
         <translation>Der Aufnahme-Hintergrund gilt nur für die Vorschau: Der Film zeigt den stehenden Hintergrund der Demo.</translation>
@@ -987,14 +1002,14 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>an der Stelle steht der Link eines anderen Benutzers</translation>
     </message>
     <message>
-        <source>The movie has no duration.</source>
-        <extracomment>MovieInput</extracomment>
-        <translation>Der Film hat keine Dauer.</translation>
-    </message>
-    <message>
         <source>Not a regular file.</source>
         <extracomment>MovieInput</extracomment>
         <translation>Keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Der Film hat keine Dauer.</translation>
     </message>
     <message>
         <source>The file holds no pictures.</source>

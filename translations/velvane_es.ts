@@ -612,6 +612,21 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>No guardar</translation>
     </message>
     <message>
+        <source>“%1” is still being exported.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>«%1» se está exportando todavía.</translation>
+    </message>
+    <message>
+        <source>Closing the demo stops the export before its movie is whole.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Al cerrar la demo, la exportación se detiene antes de que la película esté completa.</translation>
+    </message>
+    <message>
+        <source>Stop Export</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Detener la exportación</translation>
+    </message>
+    <message>
         <source>The recording backdrop is only for the preview: the movie shows the demo's still backdrop.</source>
         <extracomment>ExportController</extracomment>
         <translation>La grabación de fondo es solo para la vista previa: la película muestra el fondo fijo de la demo.</translation>
@@ -987,14 +1002,14 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>en su lugar hay un enlace de otro usuario</translation>
     </message>
     <message>
-        <source>The movie has no duration.</source>
-        <extracomment>MovieInput</extracomment>
-        <translation>La película no tiene duración.</translation>
-    </message>
-    <message>
         <source>Not a regular file.</source>
         <extracomment>MovieInput</extracomment>
         <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>La película no tiene duración.</translation>
     </message>
     <message>
         <source>The file holds no pictures.</source>

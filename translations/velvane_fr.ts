@@ -612,6 +612,21 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>Ne pas enregistrer</translation>
     </message>
     <message>
+        <source>“%1” is still being exported.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>« %1 » est encore en cours d’exportation.</translation>
+    </message>
+    <message>
+        <source>Closing the demo stops the export before its movie is whole.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Fermer la démo arrête l’exportation avant que son film soit complet.</translation>
+    </message>
+    <message>
+        <source>Stop Export</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>Arrêter l’exportation</translation>
+    </message>
+    <message>
         <source>The recording backdrop is only for the preview: the movie shows the demo's still backdrop.</source>
         <extracomment>ExportController</extracomment>
         <translation>L’enregistrement en arrière-plan ne sert qu’à l’aperçu : le film montre l’arrière-plan fixe de la démo.</translation>
@@ -987,14 +1002,14 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>le lien d’un autre utilisateur se trouve à sa place</translation>
     </message>
     <message>
-        <source>The movie has no duration.</source>
-        <extracomment>MovieInput</extracomment>
-        <translation>Le film n’a pas de durée.</translation>
-    </message>
-    <message>
         <source>Not a regular file.</source>
         <extracomment>MovieInput</extracomment>
         <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>Le film n’a pas de durée.</translation>
     </message>
     <message>
         <source>The file holds no pictures.</source>

@@ -612,6 +612,21 @@ Results go to standard output, messages and progress to standard error.
         <translation>保存しない</translation>
     </message>
     <message>
+        <source>“%1” is still being exported.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>「%1」はまだ書き出し中です。</translation>
+    </message>
+    <message>
+        <source>Closing the demo stops the export before its movie is whole.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>デモを閉じると、ムービーが完成する前に書き出しが中止されます。</translation>
+    </message>
+    <message>
+        <source>Stop Export</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>書き出しを中止</translation>
+    </message>
+    <message>
         <source>The recording backdrop is only for the preview: the movie shows the demo's still backdrop.</source>
         <extracomment>ExportController</extracomment>
         <translation>録画の背景はプレビュー専用です。ムービーにはデモの静止背景が使われます。</translation>
@@ -987,14 +1002,14 @@ Results go to standard output, messages and progress to standard error.
         <translation>その場所に別のユーザーのリンクがあります</translation>
     </message>
     <message>
-        <source>The movie has no duration.</source>
-        <extracomment>MovieInput</extracomment>
-        <translation>ムービーに長さがありません。</translation>
-    </message>
-    <message>
         <source>Not a regular file.</source>
         <extracomment>MovieInput</extracomment>
         <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>ムービーに長さがありません。</translation>
     </message>
     <message>
         <source>The file holds no pictures.</source>

@@ -611,6 +611,21 @@ Results go to standard output, messages and progress to standard error.
         <translation>不保存</translation>
     </message>
     <message>
+        <source>“%1” is still being exported.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>“%1”仍在导出。</translation>
+    </message>
+    <message>
+        <source>Closing the demo stops the export before its movie is whole.</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>关闭演示会在影片完成之前停止导出。</translation>
+    </message>
+    <message>
+        <source>Stop Export</source>
+        <extracomment>EditorWindow</extracomment>
+        <translation>停止导出</translation>
+    </message>
+    <message>
         <source>The recording backdrop is only for the preview: the movie shows the demo's still backdrop.</source>
         <extracomment>ExportController</extracomment>
         <translation>录像背景仅用于预览：影片显示演示的静态背景。</translation>
@@ -986,14 +1001,14 @@ Results go to standard output, messages and progress to standard error.
         <translation>其位置上有另一用户的链接</translation>
     </message>
     <message>
-        <source>The movie has no duration.</source>
-        <extracomment>MovieInput</extracomment>
-        <translation>影片没有时长。</translation>
-    </message>
-    <message>
         <source>Not a regular file.</source>
         <extracomment>MovieInput</extracomment>
         <translation>不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The movie has no duration.</source>
+        <extracomment>MovieInput</extracomment>
+        <translation>影片没有时长。</translation>
     </message>
     <message>
         <source>The file holds no pictures.</source>

@@ -227,9 +227,38 @@ TEST_F(DocumentsTest, AWindowThatClosesDuringAnExportCancelsItAndThenCloses)
     edit(window);
     EXPECT_FALSE(window->close());
     answer(window, "Don't Save");
+    answer(window, "Stop Export");
     waitFor(window);
     EXPECT_TRUE(documents.windows().isEmpty());
     EXPECT_EQ(lasts, 1);
+}
+
+TEST_F(DocumentsTest, AnExportThatIsNotToStopKeepsItsWindow)
+{
+    EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
+    exportLong(window, "a.mp4");
+    for (const bool quitting : {false, true}) {
+        if (quitting)
+            documents.quit();
+        else
+            window->close();
+        answer(window, "Cancel");
+        EXPECT_TRUE(window->content().exporting().isExporting());
+        EXPECT_FALSE(window->mayClose());
+    }
+    edit(window);
+    window->close();
+    answer(window, "Don't Save");
+    answer(window, "Cancel");
+    EXPECT_TRUE(window->content().exporting().isExporting());
+    window->close();
+    answer(window, "Cancel"); // of the changes, which are asked about again
+    EXPECT_EQ(documents.windows().size(), 1);
+    EXPECT_EQ(quits, 0);
+
+    window->letGo();
+    window->close();
+    waitFor(window);
 }
 
 TEST_F(DocumentsTest, QuittingDuringExportsCancelsThemAndThenQuits)
@@ -240,6 +269,8 @@ TEST_F(DocumentsTest, QuittingDuringExportsCancelsThemAndThenQuits)
     exportLong(windows[1], "b.mp4");
     documents.quit();
     EXPECT_EQ(quits, 0);
+    for (EditorWindow *window : windows)
+        answer(window, "Stop Export");
     for (EditorWindow *window : windows)
         if (documents.windows().contains(window))
             waitFor(window);
@@ -253,6 +284,7 @@ TEST_F(DocumentsTest, CancelAfterAnEditInTheQuitsLastMomentEndsTheQuitting)
     EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
     exportLong(window, "a.mp4");
     documents.quit();
+    answer(window, "Stop Export");
     edit(window);
     until([=] { return question(window) != nullptr; });
     answer(window, "Cancel");
@@ -269,6 +301,7 @@ TEST_F(DocumentsTest, AnEditInTheQuitsLastMomentIsAskedAboutBeforeQuitting)
     EditorWindow *window = documents.open(demo("a.velvane"), nullptr);
     exportLong(window, "a.mp4");
     documents.quit();
+    answer(window, "Stop Export");
     edit(window);
     until([=] { return question(window) != nullptr; });
     answer(window, "Save");
@@ -283,6 +316,7 @@ TEST_F(DocumentsTest, TheExportsOfAllWindowsShareTheTaskbar)
     EXPECT_FALSE(documents.taskbar().progress());
     exportLong(window, "a.mp4");
     EXPECT_EQ(documents.taskbar().progress(), window->content().exporting().exportProgress());
+    window->letGo();
     window->close();
     waitFor(window);
     EXPECT_FALSE(documents.taskbar().progress());

@@ -10,7 +10,6 @@
 #include "model/DocumentError.h"
 #include "model/ProjectFile.h"
 
-#include <QCloseEvent>
 #include <QDropEvent>
 #include <QFileInfo>
 
@@ -254,56 +253,6 @@ void EditorWindow::askAboutCanvas(QSizeF screen, const RecordActionsController::
     ask(this, question, [chosen](int answer) {
         if (answer < 2)
             chosen(answer == 0 ? CanvasChoice::matchScreen : CanvasChoice::keepCanvas);
-    });
-}
-
-// A run and a recording end before anything is asked: they have the mouse and the keyboard.
-bool EditorWindow::endInputThen(const std::function<void()> &again)
-{
-    return m_content->liveRun().cancelThen(this, again)
-           || m_content->recordActions().cancelThen(this, again);
-}
-
-void EditorWindow::confirmClose(const Done &done)
-{
-    if (endInputThen([this, done] { confirmClose(done); }))
-        return;
-    m_content->fieldEditing().commitOpenGesture();
-    if (mayClose())
-        return done(true);
-    raise();
-    activateWindow();
-    const Question question{tr("Do you want to save the changes to “%1”?").arg(name()),
-                            tr("Your changes are lost if you don't save them."),
-                            {tr("Save"), tr("Don't Save"), tr("Cancel")}};
-    ask(this, question, [this, done](int answer) {
-        if (answer == 0)
-            return saveThen(done);
-        m_mayClose = answer == 1;
-        done(m_mayClose);
-    });
-}
-
-void EditorWindow::closeEvent(QCloseEvent *event)
-{
-    if (endInputThen([this] { close(); }))
-        return event->ignore();
-    m_content->fieldEditing().commitOpenGesture();
-    if (mayClose()) {
-        // An export ends before its window.
-        if (m_content->exporting().cancelThen(this, [this] { close(); }))
-            return event->ignore();
-        m_documents.remember(*this);
-        return event->accept();
-    }
-    event->ignore();
-    // An edit after quit() has asked: whether it goes on is for the answer to decide.
-    const bool quits = m_documents.interruptQuit();
-    confirmClose([this, quits](bool may) {
-        if (may && quits)
-            QMetaObject::invokeMethod(&m_documents, &Documents::quit, Qt::QueuedConnection);
-        else if (may)
-            QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     });
 }
 

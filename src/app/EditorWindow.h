@@ -52,15 +52,16 @@ public:
     /// Saves to the demo's file, or asks for one first; asks too when the file is not as it was
     /// last read or written.
     void saveThen(const Done &done);
-    /// Ends what is being edited and, if the demo is modified, asks whether to save. `done` hears
-    /// true when the window may close without loss or the user agreed to it.
+    /// Ends what is being edited and asks whether to save, if the demo is modified, and whether an
+    /// export may be stopped. `done` hears true when the window may close without loss or the user
+    /// agreed to it.
     void confirmClose(const Done &done);
     /// Is there nothing to lose, or has the user agreed to it?
-    bool mayClose() const { return m_mayClose || !isModified(); }
+    bool mayClose() const;
     /// Takes back the agreement that confirmClose() got.
-    void keepOpen() { m_mayClose = false; }
+    void keepOpen() { agreeToClose(false); }
     /// Lets it close without a question: what it holds is kept elsewhere.
-    void letGo() { m_mayClose = true; }
+    void letGo() { agreeToClose(true); }
     /// While a live run or a recording of actions goes on, ends it and returns true; `again` is
     /// then called, queued, when it has ended.
     bool endInputThen(const std::function<void()> &again);
@@ -88,6 +89,10 @@ private:
     void watchProject();
     void askAboutCanvas(QSizeF screen, const RecordActionsController::Chosen &chosen);
     void updateTitle();
+    bool mayLoseChanges() const;
+    void agreeToClose(bool agreed);
+    void askAboutChanges(const Done &done);
+    void askAboutExport(const Done &done);
     void saveAsThen(const Done &done);
     void saveTo(DocumentFile file, const Done &done);
     void tellFailure(const QString &path, const QString &refusal, const Done &done);
@@ -104,7 +109,9 @@ private:
     std::optional<DocState> m_saved;
     ContentView *m_content;
     int m_untitledNumber = 1;
-    bool m_mayClose = false;
+    /// What the user has agreed to lose.
+    bool m_mayLoseChanges = false;
+    bool m_mayStopExport = false;
 };
 
 } // namespace velvane

@@ -81,6 +81,8 @@ class Exporting(EditorTest):
         self.export(editor, movie)
         self.wait_exporting(editor)
         editor.key("ctrl+w")
+        editor.wait_question("“demo” is still being exported.")
+        editor.answer("Stop Export")
         editor.find("push button", "Open…")
         self.assert_playable(movie)
 
@@ -94,6 +96,8 @@ class Exporting(EditorTest):
         self.export(editor, movie, window=demo)
         self.wait_exporting(editor)
         editor.key("ctrl+q")
+        editor.wait_question("“demo” is still being exported.")
+        editor.answer("Stop Export")
         editor.wait_end()
         self.assert_playable(movie)
 
