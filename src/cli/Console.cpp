@@ -2,7 +2,7 @@
 
 #include "base/PlainLine.h"
 #include "language/Languages.h"
-#include "platform/freedesktop/Sandbox.h"
+#include "platform/Sandbox.h"
 
 #include <QFile>
 

@@ -46,6 +46,8 @@ MovieFile::MovieFile(const QString &path, Existing existing)
         throw MovieError(MovieError::Cause::file, qt_error_string(errno));
     struct stat about {};
     m_isRegular = ::fstat(m_file, &about) == 0 && S_ISREG(about.st_mode);
+    // Some file systems do not count names.
+    m_hasName = m_isRegular && about.st_nlink > 0;
 }
 
 MovieFile::~MovieFile()
@@ -110,7 +112,7 @@ void MovieFile::close()
         fail(errno);
     // What has no name any more is gone: removed, or replaced by another movie.
     struct stat about {};
-    if (m_isRegular && ::fstat(m_file, &about) == 0 && about.st_nlink == 0)
+    if (m_hasName && ::fstat(m_file, &about) == 0 && about.st_nlink == 0)
         fail(ENOENT);
     if (::close(m_file) != 0)
         fail(errno);

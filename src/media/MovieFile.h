@@ -54,6 +54,7 @@ private:
 
     int m_file = -1;
     bool m_isRegular = false;
+    bool m_hasName = false;
     qint64 m_claimed = 0;
     qint64 m_size = 0;
     int m_error = 0;

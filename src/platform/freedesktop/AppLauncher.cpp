@@ -1,7 +1,7 @@
 #include "platform/freedesktop/AppLauncher.h"
 
 #include "base/Background.h"
-#include "platform/freedesktop/Sandbox.h"
+#include "platform/Sandbox.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

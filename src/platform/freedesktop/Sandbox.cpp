@@ -1,4 +1,4 @@
-#include "platform/freedesktop/Sandbox.h"
+#include "platform/Sandbox.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/freedesktop/Sandbox.h"
+#include "platform/Sandbox.h"
 
 #include <QProcessEnvironment>
 #include <QStringList>

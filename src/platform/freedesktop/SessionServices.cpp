@@ -1,6 +1,6 @@
 #include "platform/freedesktop/SessionServices.h"
 
-#include "platform/freedesktop/Sandbox.h"
+#include "platform/Sandbox.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

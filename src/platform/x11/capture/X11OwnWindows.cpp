@@ -1,6 +1,6 @@
 #include "platform/x11/capture/X11OwnWindows.h"
 
-#include "platform/freedesktop/Sandbox.h"
+#include "platform/Sandbox.h"
 #include "platform/x11/X11Property.h"
 
 #include <QCoreApplication>
