@@ -377,6 +377,11 @@ Fehlerausgabe. „velvane SUBCOMMAND --help“ erklärt jeden Unterbefehl.</tran
         <translation>„%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
     <message>
+        <source>The demo's picture cannot be read; saving leaves it out.</source>
+        <extracomment>Documents</extracomment>
+        <translation>Das Bild der Demo kann nicht gelesen werden; beim Speichern entfällt es.</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <extracomment>EditCommands</extracomment>
         <translation>Rückgängig</translation>

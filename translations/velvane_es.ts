@@ -377,6 +377,11 @@ error. «velvane SUBCOMMAND --help» explica cada subcomando.</translation>
         <translation>No se puede abrir «%1»: %2.</translation>
     </message>
     <message>
+        <source>The demo's picture cannot be read; saving leaves it out.</source>
+        <extracomment>Documents</extracomment>
+        <translation>No se puede leer la imagen de la demo; al guardar se omitirá.</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <extracomment>EditCommands</extracomment>
         <translation>Deshacer</translation>

@@ -377,6 +377,11 @@ la sortie d’erreur. « velvane SUBCOMMAND --help » explique chaque sous-com
         <translation>« %1 » ne peut pas être ouvert : %2.</translation>
     </message>
     <message>
+        <source>The demo's picture cannot be read; saving leaves it out.</source>
+        <extracomment>Documents</extracomment>
+        <translation>L’image de la démo ne peut pas être lue ; l’enregistrement l’omettra.</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <extracomment>EditCommands</extracomment>
         <translation>Annuler</translation>

@@ -377,6 +377,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>「%1」を開けません: %2。</translation>
     </message>
     <message>
+        <source>The demo's picture cannot be read; saving leaves it out.</source>
+        <extracomment>Documents</extracomment>
+        <translation>デモの画像を読み込めません。保存すると画像は失われます。</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <extracomment>EditCommands</extracomment>
         <translation>元に戻す</translation>

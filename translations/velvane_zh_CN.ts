@@ -376,6 +376,11 @@ Results go to standard output, messages and progress to standard error.
         <translation>无法打开“%1”：%2。</translation>
     </message>
     <message>
+        <source>The demo's picture cannot be read; saving leaves it out.</source>
+        <extracomment>Documents</extracomment>
+        <translation>无法读取演示的图片；保存时会将其略去。</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <extracomment>EditCommands</extracomment>
         <translation>撤销</translation>

@@ -67,7 +67,13 @@ EditorWindow *Documents::open(const QString &path, QWidget *asking)
         return bringUp(window);
     try {
         const DocumentFile file(path);
-        return add(DemoDocument::read(file.path()), file);
+        auto demo = DemoDocument::read(file.path());
+        const bool hasLostBackground = demo->hasLostBackground();
+        EditorWindow *window = add(std::move(demo), file);
+        if (hasLostBackground)
+            window->content().statusLine().setMessage(
+                tr("The demo's picture cannot be read; saving leaves it out."));
+        return window;
     } catch (const DocumentError &error) {
         ask(asking, Question::message(refusal(path, error.message())));
         return nullptr;

@@ -93,6 +93,18 @@ TEST_F(DocumentsTest, PicturesAreKeptWhenAnotherDemoOpensAtOnce)
     EXPECT_TRUE(QPixmapCache::find(key, nullptr));
 }
 
+TEST_F(DocumentsTest, APictureThatCannotBeReadIsToldOf)
+{
+    EditorWindow *whole = documents.open(demo("a.velvane"), nullptr);
+    EXPECT_EQ(status(whole), "");
+    ProjectFile broken = DemoDocument().snapshot();
+    broken.background = QByteArray("no picture");
+    ASSERT_FALSE(DemoDocument::write(broken, file("b.velvane")));
+    EditorWindow *window = documents.open(file("b.velvane"), nullptr);
+    EXPECT_EQ(status(window), "The demo's picture cannot be read; saving leaves it out.");
+    EXPECT_FALSE(window->isModified());
+}
+
 TEST_F(DocumentsTest, AFileIsOpenInOneWindowOnly)
 {
     EditorWindow *window = documents.open(demo("a.velvane"), nullptr);

@@ -117,6 +117,7 @@ DemoDocument::DemoDocument() : m_project(std::make_unique<Project>()) {}
 DemoDocument::DemoDocument(const ProjectFile &file)
     : m_project(std::make_unique<Project>(file))
     , m_fileVersion(file.version)
+    , m_hasLostBackground(file.background && m_project->background().isNull())
 {}
 
 std::unique_ptr<DemoDocument> DemoDocument::read(const QString &path)

@@ -24,6 +24,8 @@ public:
     ProjectFile snapshot() const;
     /// The format version that the file named; 1 for a new demo. Only for showing: any is read.
     qint64 fileVersion() const { return m_fileVersion; }
+    /// Did the file hold a background that is no picture? The next save leaves it out.
+    bool hasLostBackground() const { return m_hasLostBackground; }
 
     /// The record of a file; throws DocumentError for what is no regular file, cannot be read or
     /// holds no demo. The message does not name the file.
@@ -41,6 +43,7 @@ public:
 private:
     std::unique_ptr<Project> m_project;
     qint64 m_fileVersion = 1;
+    bool m_hasLostBackground = false;
 };
 
 } // namespace velvane

@@ -118,6 +118,8 @@ TEST(DemoDocument, ABackgroundThatIsNoPictureIsLeftOut)
     const DemoDocument demo(DemoDocument::fileOf(DemoDocument::contents(file)));
     EXPECT_TRUE(demo.project().background().isNull());
     EXPECT_EQ(demo.snapshot().background, std::nullopt);
+    EXPECT_TRUE(demo.hasLostBackground());
+    EXPECT_FALSE(DemoDocument(demo.snapshot()).hasLostBackground());
 }
 
 } // namespace velvane
