@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 namespace velvane {
 
 /// A track with a knob, for a moment between 0 and a total. By mouse and by keyboard: arrows go one
@@ -26,8 +28,8 @@ public:
     Seconds step() const { return m_step; }
     void setStep(Seconds step) { m_step = step; }
 
-    /// "3.2 / 13.0s"
-    QString timeText() const { return textOf(m_time, m_total); }
+    /// "3.2 / 13.0s". A demo that has become shorter ends before its time.
+    QString timeText() const { return textOf(std::min(m_time, m_total), m_total); }
     /// A text that no moment's is wider than, if digits are all of one width.
     QString widestTimeText() const;
 

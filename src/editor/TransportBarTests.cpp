@@ -53,6 +53,8 @@ TEST_F(TransportBarTest, TheLabelShowsTimeOverTotal)
 {
     playback.setTime(0.75s);
     EXPECT_EQ(bar.timeLabel().accessibleName(), "0.8 / 1.3s");
+    project.setSteps({});
+    EXPECT_EQ(bar.timeLabel().accessibleName(), "0.0 / 0.0s");
 }
 
 TEST_F(TransportBarTest, EveryControlIsNamedAndReachedFromLeftToRight)
