@@ -127,6 +127,7 @@ class Tasks:
             return False
         for _ in range(2):
             self.click_canvas()
+        self.settle()  # an empty demo's canvas has a button that records
         return all(re.match(r"\d+, Move", row.name) for row in self.shown_rows())
 
     def wait_front(self):
